@@ -1,0 +1,124 @@
+#include "file/store_load.h"
+
+#include "file/archive.h"
+#include "file/file_io.h"
+#include "file/safe_writer.h"
+#include "state/filing.h"
+#include "values/money.h"
+#include "values/text.h"
+
+#include <fmt/format.h>
+
+#include <cstddef>
+#include <utility>
+
+namespace lodge {
+
+namespace {
+
+constexpr std::string_view extension = ".txt";
+constexpr std::string_view innerMark = "M";
+
+ReadResult unreadable(std::string message, std::string cause) {
+    return {ReadStatus::Unreadable, std::move(message), std::move(cause), {}};
+}
+
+void setPeriod(ReturnState& state, int machineYear) {
+    state.FucDate = {};
+    state.FucDate.Str2StartDate(state.strStartDDMMYY, machineYear);
+    state.FucDate.Str2EndDate(state.strFinishDDMMYY, machineYear);
+    state.FucDate.SetCarryYears(carryYears(state));
+}
+
+ReadResult readInto(ReturnState& state, std::string_view text, int machineYear) {
+    state.beginReturn(IhqRecord::Keep);
+    ReadResult result = readReturn(text, state);
+    if (result.status == ReadStatus::Loaded) {
+        sumItem8(state);
+        setPeriod(state, machineYear);
+    } else {
+        // What was read before the text turned out to be unreadable must not stay.
+        state.putAway();
+        setFilingType(state);
+    }
+    state.DataCtrl_P1.StatusChanged = true;
+    return result;
+}
+
+} // namespace
+
+ReturnFileNames returnFileNames(const ReturnState& state, std::string_view userId) {
+    const std::string stem = fmt::format(
+        "{}{}{}{}{}", userId, state.strTaxYear, state.strFilingType, state.strAddNo, state.strStoreType);
+    return {fmt::format("{}{}{}", stem, innerMark, extension), fmt::format("{}{}", stem, extension)};
+}
+
+std::string packedPathOf(std::string_view innerPath) {
+    constexpr std::size_t tail = innerMark.size() + extension.size();
+    const std::size_t stem = innerPath.size() < tail ? 0 : innerPath.size() - tail;
+    return fmt::format("{}{}", innerPath.substr(0, stem), extension);
+}
+
+ReadResult loadReturn(const std::string& path, ReturnState& state, int machineYear) {
+    FileContent file = readWholeFile(nativePath(path), readingLimits.fileBytes);
+    if (!file.error.empty()) return unreadable(std::move(file.text), std::move(file.error));
+    const Unpacked archive = unpackArchive(file.bytes, 1);
+    if (archive.fault != ArchiveFault::None)
+        return unreadable(faultText(archive.fault), std::string(faultCause(archive.fault)));
+    return readInto(state, archive.members.front().content, machineYear);
+}
+
+void sumItem8(ReturnState& state) {
+    constexpr std::size_t line15 = 62; // Total column of lines 15 and 16; the further lines are packed texts.
+    constexpr std::size_t line16 = 63;
+    constexpr std::size_t firstPacked = 75;
+    constexpr std::size_t lastPacked = 84;
+    constexpr std::size_t totalColumn = 3;
+    const FieldArray& page = state.strFldPage5_8;
+    double sum = readFigure(page[line16]) + readFigure(page[line15]);
+    for (std::size_t entry = firstPacked; entry <= lastPacked; ++entry) {
+        const auto columns = splitBar(page[entry]);
+        if (columns.size() > totalColumn) sum += readFigure(columns[totalColumn]);
+    }
+    state.FucChk.TmpSum8_15to25 = sum;
+}
+
+StoreResult storeReturn(FileOperations& files, ReturnState& state, std::string_view folder,
+    std::string_view userId, std::chrono::local_seconds now) {
+    setTaxYear(state);
+    const ReturnFileNames names = returnFileNames(state, userId);
+    const std::string place = asFolder(trimBlanks(folder));
+    state.strFileName = place + names.inner;
+    StoreResult result{place + names.packed, {}};
+
+    Packed packed = packArchive(names.inner, encodeReturn(state), now);
+    if (!packed.error.empty()) {
+        result.error = std::move(packed.error);
+        return result;
+    }
+    const SafeStoreResult stored = storeSafely(files, result.packedPath, packed.bytes);
+    result.error = storeFailureText(stored);
+    if (stored.ok()) sweepFile(files, state.strFileName);
+    return result;
+}
+
+StoreResult storeReturn(
+    ReturnState& state, std::string_view folder, std::string_view userId, std::chrono::local_seconds now) {
+    SystemFiles files;
+    return storeReturn(files, state, folder, userId, now);
+}
+
+InnerFile readInnerFile(const std::string& path) {
+    FileContent file = readWholeFile(nativePath(path), readingLimits.fileBytes);
+    if (!file.error.empty()) return {{}, std::move(file.error)};
+    InnerFile inner{std::move(file.bytes), {}};
+    if (beginsAsArchive(inner.bytes)) {
+        Unpacked archive = unpackArchive(inner.bytes, 1);
+        if (archive.fault != ArchiveFault::None) return {{}, std::string(faultCause(archive.fault))};
+        inner.bytes = std::move(archive.members.front().content);
+    }
+    if (const auto line = lineBeyondLimits(inner.bytes)) return {{}, beyondLimitsCause(*line)};
+    return inner;
+}
+
+} // namespace lodge
