@@ -162,23 +162,30 @@ bool Desk::liesUnderModal(const Form& form) const {
 }
 
 void Desk::setFocus(Control& control) {
-    const Form& form = control.form();
-    if (!form.isShown() || !control.takesFocus() || !control.isShown() || !control.isOpen()) {
-        return;
-    }
-    if (focus_ == &control) {
+    if (focus_ == &control || !canHaveFocus(control)) {
         return;
     }
     const EventScope scope(*this);
-    Control* left = std::exchange(focus_, &control);
-    if (left != nullptr) {
-        left->raise(left->onLostFocus);
-        if (focus_ != &control) {
-            return; // the control that was left, or another, took the focus instead
-        }
+    // The control that is left may take the focus back, or close the one that was to get it.
+    if (!takeFocusAway()) {
+        return;
     }
-    tell([&](DeskObserver& observer) { observer.focusMoved(&control); });
-    control.raise(control.onGotFocus);
+    focus_ = canHaveFocus(control) ? &control : nullptr;
+    tell([&](DeskObserver& observer) { observer.focusMoved(focus_); });
+    if (focus_ == &control) {
+        control.raise(control.onGotFocus);
+    }
+}
+
+bool Desk::canHaveFocus(const Control& control) {
+    return control.form().isShown() && control.takesFocus() && control.isShown() && control.isOpen();
+}
+
+bool Desk::takeFocusAway() {
+    if (Control* left = std::exchange(focus_, nullptr)) {
+        left->raise(left->onLostFocus);
+    }
+    return focus_ == nullptr;
 }
 
 bool Desk::leaveFocus() {
@@ -186,10 +193,11 @@ bool Desk::leaveFocus() {
         return true;
     }
     const EventScope scope(*this);
-    Control* left = std::exchange(focus_, nullptr);
-    tell([](DeskObserver& observer) { observer.focusMoved(nullptr); });
-    left->raise(left->onLostFocus);
-    return focus_ == nullptr;
+    if (takeFocusAway()) {
+        tell([](DeskObserver& observer) { observer.focusMoved(nullptr); });
+        return true;
+    }
+    return false;
 }
 
 void Desk::timerSwitched(Timer& timer) {

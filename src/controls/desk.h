@@ -116,6 +116,8 @@ class Desk {
     void formChanged(Form& form);
     void controlChanged(Control& control, Aspect aspect);
     void timerSwitched(Timer& timer);
+    [[nodiscard]] static bool canHaveFocus(const Control& control);
+    bool takeFocusAway();
     void activateTop();
     void takeOffScreen(Form& form);
     template <typename Tell>

@@ -30,6 +30,16 @@ void Form::setEnabled(bool enabled) {
     }
 }
 
+void Form::orderOnPaper(const std::vector<Control*>& run) {
+    const auto isInRun = [&](const Control* control) {
+        return std::find(run.begin(), run.end(), control) != run.end();
+    };
+    const auto first = std::find_if(controls_.begin(), controls_.end(), isInRun);
+    const auto place = std::count_if(controls_.begin(), first, [&](const Control* c) { return !isInRun(c); });
+    std::erase_if(controls_, isInRun);
+    controls_.insert(controls_.begin() + place, run.begin(), run.end());
+}
+
 Control* Form::find(std::string_view fullName) const {
     const auto found = std::find_if(controls_.begin(), controls_.end(),
         [&](const Control* control) { return control->fullName() == fullName; });

@@ -39,6 +39,9 @@ class Form {
 
     /// All controls in the order of the paper, which is the order of the focus.
     [[nodiscard]] const std::vector<Control*>& controls() const { return controls_; }
+    /// Brings controls into the order of the paper: they follow one another from the place of the first of
+    /// them on. Control arrays register by their index, which is not always the order of the lines.
+    void orderOnPaper(const std::vector<Control*>& run);
     /// The control of that name ("txtNid", "chkStatus(11)"), nullptr when there is none.
     [[nodiscard]] Control* find(std::string_view fullName) const;
 

@@ -9,7 +9,7 @@ namespace lodge {
 
 class Timer : public Control {
   public:
-    /// A timer is switched off until `setEnabled(true)`.
+    /// A timer is switched off until `setEnabled(true)`; its interval is at least a millisecond.
     Timer(Form& form, std::string name, std::chrono::milliseconds interval);
 
     [[nodiscard]] std::chrono::milliseconds interval() const { return interval_; }

@@ -36,7 +36,7 @@ class Program : public Notifier {
     void notify(const std::string& text) override;
     /// Shows the catalogue's text of that code.
     void message(std::string_view code);
-    /// Refuses: shows the message, sets `intError` and puts the focus on the control.
+    /// Refuses: shows the message, puts the focus on the control and sets `intError`.
     void refuse(std::string_view code, Control& focus);
     /// An input box, a file dialog or a folder dialog; timers stand still meanwhile.
     std::optional<std::string> ask(const InputBox& box);

@@ -1,4 +1,5 @@
-// Lines 15 to 26 of item 8, expenses that the Revenue Code does not allow: item 9 line 5 must state their sum.
+// Lines 15 to 26 of item 8, expenses that the Revenue Code does not allow: item 9 line 5 must state their
+// sum.
 #pragma once
 
 #include "state/return_state.h"

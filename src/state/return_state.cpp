@@ -97,7 +97,13 @@ void ReturnState::putAway() {
     blnMouseUp = false;
 }
 
-void ReturnState::clearGreenRows() { emptyTexts(strFldPage1_2); }
+void ReturnState::clearGreenRows() {
+    emptyTexts(strFldPage1_2);
+    for (std::string* copy : {&SheetIncome, &Sheet71a, &Sheet71c, &SheetRate}) {
+        copy->clear();
+    }
+    SheetTax = 0.0;
+}
 
 void ReturnState::clearPage1Choices() {
     strWebsite.clear();

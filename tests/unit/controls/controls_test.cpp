@@ -114,6 +114,16 @@ TEST_F(Controls, AControlIsFoundByItsNameAndIndex) {
     EXPECT_EQ(form->find("chkStatus"), nullptr);
 }
 
+TEST_F(Controls, StandInTheOrderOfThePaperWhenTheyAreBroughtIntoIt) {
+    const std::size_t place = 3; // behind txtName, mskDate, chkFirst
+    form->orderOnPaper({&form->chkStatus[2], &form->chkStatus[0], &form->chkStatus[1], &form->lblSum});
+    ASSERT_EQ(form->controls()[place], &form->chkStatus[2]);
+    EXPECT_EQ(form->controls()[place + 1], &form->chkStatus[0]);
+    EXPECT_EQ(form->controls()[place + 3], &form->lblSum);
+    EXPECT_EQ(form->controls()[place + 4], &form->fraFirst);
+    EXPECT_EQ(form->controls().size(), 15U);
+}
+
 TEST_F(Controls, RemovingAnEntryKeepsTheSelectionOnItsText) {
     form->cboTitle.setItems({"", "นาย", "นาง"});
     form->cboTitle.select(2);

@@ -134,6 +134,24 @@ TEST_F(DeskTest, AControlThatTakesTheFocusBackKeepsIt) {
     EXPECT_FALSE(desk.leaveFocus());
 }
 
+TEST_F(DeskTest, AControlThatNeverGotTheFocusDoesNotLoseIt) {
+    LoggingForm& form = show("A");
+    form.txtFirst.onLostFocus = [&form] { form.txtFirst.setFocus(); };
+    form.txtSecond.onLostFocus = [this] { log.emplace_back("second lost"); };
+    form.txtFirst.setFocus();
+    log.clear();
+    form.txtSecond.setFocus();
+    EXPECT_TRUE(log.empty());
+}
+
+TEST_F(DeskTest, AControlThatIsClosedByTheOneBeforeItGetsNoFocus) {
+    LoggingForm& form = show("A");
+    form.txtFirst.onLostFocus = [&form] { form.txtSecond.setEnabled(false); };
+    form.txtFirst.setFocus();
+    form.txtSecond.setFocus();
+    EXPECT_EQ(desk.focus(), nullptr);
+}
+
 TEST_F(DeskTest, TheFocusDoesNotGoWhereAPersonCouldNotPutIt) {
     LoggingForm& form = show("A");
     form.txtFirst.setEnabled(false);
