@@ -15,7 +15,7 @@ Desk::~Desk() = default;
 template <typename Tell>
 void Desk::tell(Tell tell) {
     // By position: an observer may take itself off, which leaves a gap, or bring another while it is told.
-    for (std::size_t i = 0; i < observers_.size(); ++i) {
+    for (std::size_t i = 0; i < observers_.size(); ++i) { // NOLINT(modernize-loop-convert): it may grow
         if (observers_[i] != nullptr) {
             tell(*observers_[i]);
         }
@@ -173,7 +173,9 @@ void Desk::setFocus(Control& control) {
     focus_ = canHaveFocus(control) ? &control : nullptr;
     tell([&](DeskObserver& observer) { observer.focusMoved(focus_); });
     if (focus_ == &control) {
+        Control* const around = std::exchange(entering_, &control);
         control.raise(control.onGotFocus);
+        entering_ = around;
     }
 }
 
@@ -182,7 +184,10 @@ bool Desk::canHaveFocus(const Control& control) {
 }
 
 bool Desk::takeFocusAway() {
-    if (Control* left = std::exchange(focus_, nullptr)) {
+    Control* const left = std::exchange(focus_, nullptr);
+    // A control that sends the focus on while it gets it was never entered, so it is not left either: two
+    // fields that send the focus to each other would not come to an end.
+    if (left != nullptr && left != entering_) {
         left->raise(left->onLostFocus);
     }
     return focus_ == nullptr;

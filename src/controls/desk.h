@@ -134,6 +134,7 @@ class Desk {
     std::vector<std::unique_ptr<Form>> leaving_;
     std::vector<Form*> screen_; // bottom to top
     Control* focus_ = nullptr;
+    Control* entering_ = nullptr; // its onGotFocus is running
     std::vector<RunningTimer> timers_;
     Milliseconds now_{0};
     int eventDepth_ = 0;

@@ -56,8 +56,8 @@ FileContent tooLarge(std::uint64_t maxBytes) {
 // nothing.
 FileContent readAll(int handle, std::uint64_t maxBytes) {
     FileContent content;
-    std::array<char, 65536>
-        buffer; // NOLINT(cppcoreguidelines-pro-type-member-init): filled before it is read.
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): filled before it is read.
+    std::array<char, 65536> buffer;
     while (true) {
         const ssize_t length = ::read(handle, buffer.data(), buffer.size());
         if (length < 0 && errno == EINTR) continue;

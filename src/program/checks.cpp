@@ -16,12 +16,13 @@ bool runChecks(Program& program, std::string_view form, std::span<const CheckRow
             continue;
         }
         program.notify(messageText(row.message));
+        program.state.intError = 1;
         const Form* page = program.desk.find(form);
         Control* control = page == nullptr ? nullptr : page->find(row.focus);
         if (control != nullptr) {
             control->setFocus();
         }
-        program.state.intError = 1; // last: the field that loses the focus runs a check of its own
+        program.state.intError = 1; // again: the field that loses the focus runs a check of its own
         return false;
     }
     return true;

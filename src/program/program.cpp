@@ -33,8 +33,9 @@ void Program::message(std::string_view code) { notify(std::string(GetMessage(cod
 
 void Program::refuse(std::string_view code, Control& focus) {
     message(code);
+    state.intError = 1;
     focus.setFocus();
-    state.intError = 1; // last: the field that loses the focus runs a check of its own, which begins at 0
+    state.intError = 1; // again: the field that loses the focus runs a check of its own, which begins at 0
 }
 
 std::optional<std::string> Program::ask(const InputBox& box) {

@@ -32,11 +32,11 @@ bool isTabStop(const Control& control) {
 } // namespace
 
 std::string acceptedText(const TextBox& box, std::string_view typed) {
-    const std::string regular = regularInput(typed, inputKind(box.textKind()));
-    if (box.maxLength() <= 0) {
-        return regular;
+    std::string regular = regularInput(typed, inputKind(box.textKind()));
+    if (box.maxLength() > 0) {
+        regular.resize(textLeft(regular, static_cast<std::size_t>(box.maxLength())).size());
     }
-    return std::string(textLeft(regular, static_cast<std::size_t>(box.maxLength())));
+    return regular;
 }
 
 std::string acceptedDigits(std::string_view typed) {

@@ -242,10 +242,10 @@ constexpr std::array unlistedRows{
 // clang-format on
 
 std::string nameOf(const NameRow& row, std::size_t index) {
-    const std::string name(row.name);
+    std::string name(row.name);
     switch (row.shape) {
-    case Shape::Field: return name + "[" + std::to_string(index) + "]";
-    case Shape::Entry: return name + "(" + std::to_string(index) + ")";
+    case Shape::Field: name += "[" + std::to_string(index) + "]"; break;
+    case Shape::Entry: name += "(" + std::to_string(index) + ")"; break;
     case Shape::Single: break;
     }
     return name;

@@ -144,6 +144,14 @@ TEST_F(DeskTest, AControlThatNeverGotTheFocusDoesNotLoseIt) {
     EXPECT_TRUE(log.empty());
 }
 
+TEST_F(DeskTest, TwoControlsThatSendTheFocusToEachOtherComeToAnEnd) {
+    LoggingForm& form = show("A");
+    form.txtFirst.onGotFocus = [&form] { form.txtSecond.setFocus(); };
+    form.txtFirst.onLostFocus = [&form] { form.txtFirst.setFocus(); };
+    form.txtFirst.setFocus();
+    EXPECT_TRUE(form.txtSecond.hasFocus());
+}
+
 TEST_F(DeskTest, AControlThatIsClosedByTheOneBeforeItGetsNoFocus) {
     LoggingForm& form = show("A");
     form.txtFirst.onLostFocus = [&form] { form.txtSecond.setEnabled(false); };
