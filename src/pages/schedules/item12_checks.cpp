@@ -1,0 +1,74 @@
+#include "pages/schedules/item12_checks.h"
+
+#include "pages/fields/amounts.h"
+#include "pages/schedules/item12_page.h"
+#include "values/money.h"
+
+#include <algorithm>
+#include <array>
+
+namespace lodge {
+
+namespace {
+
+struct CapitalRow {
+    const char* message;
+    bool (*refuses)(const CapitalEdit& edit);
+};
+
+bool paidUpWithoutRegistered(const CapitalEdit& edit) {
+    return edit.leavesRegistered && readFigure(edit.registered) == 0 && readFigure(edit.paidUp) != 0;
+}
+
+bool registeredBelowPaidUp(const CapitalEdit& edit) {
+    return readFigure(edit.registered) < readFigure(edit.paidUp);
+}
+
+constexpr std::array<CapitalRow, 2> capitalRows = {{
+    {"กรุณากรอกทุนจดทะเบียน (ทุนจดทะเบียนต้องมากกว่าหรือเท่ากับ ทุนที่ออกชำระแล้ว)", paidUpWithoutRegistered},
+    {"ทุนจดทะเบียน ต้องมากกว่าหรือเท่ากับ ทุนที่ออกชำระแล้ว", registeredBelowPaidUp},
+}};
+
+constexpr std::size_t assets = 9;
+constexpr std::size_t paidUpCapital = 18;
+constexpr std::size_t liabilitiesAndEquity = 22;
+
+/// The largest paid-up capital with which a company has the rates of a small one, baht.
+constexpr double largestSmallCapital = 5'000'000;
+
+bool sidesDiffer(const CheckContext& context) {
+    const FieldArray& fields = context.state.strFldPage7_12;
+    return !sameAmount(readFigure(fields[liabilitiesAndEquity]), readFigure(fields[assets]));
+}
+
+bool capitalTooLargeForRate(const CheckContext& context) {
+    const ReturnState& state = context.state;
+    return readFigure(state.strFldPage1[12]) != 0 && readFigure(state.strFldPage2[26]) != 0
+           && state.strFldPage2[44] == "(2.5)"
+           && readFigure(state.strFldPage7_12[paidUpCapital]) > largestSmallCapital;
+}
+
+bool sideMissing(const CheckContext& context) {
+    const FieldArray& fields = context.state.strFldPage7_12;
+    return fields[assets].empty() || fields[liabilitiesAndEquity].empty();
+}
+
+constexpr std::array<CheckRow, 3> rows = {{
+    {"M084", "txtMoney2(0)", sidesDiffer},
+    {"M100", "txtMoney4(1)", capitalTooLargeForRate},
+    {"M105", "txtMoney2(0)", sideMissing},
+}};
+
+} // namespace
+
+const char* capitalRefusal(const CapitalEdit& edit) {
+    const auto row =
+        std::ranges::find_if(capitalRows, [&](const CapitalRow& other) { return other.refuses(edit); });
+    return row == capitalRows.end() ? nullptr : row->message;
+}
+
+std::span<const CheckRow> item12CheckRows() { return rows; }
+
+void Chk_Item12Store(Program& program) { runChecks(program, frmLodgePage7_12::formName, rows); }
+
+} // namespace lodge
