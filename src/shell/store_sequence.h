@@ -1,0 +1,34 @@
+// The order of a store: the gates before it, the full checks of a complete one, and the hand-over to the
+// store dialog.
+#pragma once
+
+#include "program/program.h"
+#include "shell/navigation.h"
+
+namespace lodge {
+
+class StoreSequence {
+  public:
+    StoreSequence(Program& program, Navigation& navigation) : program_(program), navigation_(navigation) {}
+
+    /// Complete store, the file that is uploaded.
+    void cmdSave1_Click();
+    /// Temporary store, to go on with later.
+    void cmdSave2_Click();
+
+  private:
+    bool passesGates();
+    /// The first complete store after a load or a change of status goes through page 2.
+    bool goesThroughPage2();
+    /// The worksheet's figures, the capital of a small company, the carried loss on the page of item 11.
+    bool passesTaxGates();
+    bool ChkZoneStatus();
+    bool passesFullChecks();
+    void storeFlow();
+    void focusFirstField();
+
+    Program& program_;
+    Navigation& navigation_;
+};
+
+} // namespace lodge
