@@ -1,0 +1,81 @@
+// Binds the desk to the screen: shows its forms, repaints what changes, and lets a person act on it.
+//
+// There is no code a page: a form's layout has a widget of the name of each control, and that is all.
+#pragma once
+
+#include "program/program.h"
+#include "ui/desk_clock.h"
+#include "ui/form_view.h"
+#include "ui/qt_host.h"
+#include "ui/user_door.h"
+
+#include <QMainWindow>
+#include <QObject>
+#include <QPointer>
+#include <QTimer>
+
+#include <map>
+#include <string>
+#include <vector>
+
+class QStackedWidget;
+
+namespace lodge {
+
+class Look;
+
+class Binder : public QObject, public DeskObserver, public UserDoor, public WaitWatcher {
+    Q_OBJECT
+
+  public:
+    Binder(Program& program, const Look& look);
+    ~Binder() override;
+
+    /// The view on a loaded form that has been on screen, nullptr otherwise.
+    [[nodiscard]] FormView* viewOf(std::string_view form) const;
+    [[nodiscard]] QMainWindow* frame() const { return frame_; }
+
+    void act(const std::function<void(User&)>& what) override;
+    void press(Control& button) override;
+    void openItem(const std::string& chooserButton) override;
+    void settleSoon() override;
+
+    void waitBegins() override;
+    void waitEnds() override;
+
+    void formShown(Form& form) override;
+    void formHidden(Form& form) override;
+    void formUnloaded(Form& form) override;
+    void formChanged(Form& form) override;
+    void controlChanged(Control& control, Aspect aspect) override;
+    void focusMoved(Control* control) override;
+    void timersChanged() override { clock_.timersChanged(); }
+
+  private:
+    FormView& viewFor(Form& form);
+    bool pressOpen(std::string_view form, const std::string& button);
+    void placeFrame(QMainWindow& frame);
+    void placePage(QWidget& page);
+    void placeDialog(const Form& form, QWidget& dialog);
+    void showWindow(const Form& form, QWidget& window);
+    void showTopPage();
+    void settle();
+    void bringFocus(QWidget& widget);
+    [[nodiscard]] Control* restingPlace(const Form& form) const;
+
+    Program& program_;
+    const Look& look_;
+    DeskClock clock_;
+    User user_;
+    std::map<std::string, FormView*, std::less<>> views_;
+    QPointer<QMainWindow> frame_;
+    QPointer<QStackedWidget> pages_;
+    std::vector<FormView*> shownPages_; // bottom to top
+    QPointer<QWidget> status_;          // what the page on top has in the status bar
+    QPointer<QWidget> statusPage_;
+    int waits_ = 0;
+    bool boxAnswered_ = false; // a box came up in what the person did last
+    QTimer settling_;          // fires once everything that is under way has ended
+};
+
+} // namespace lodge

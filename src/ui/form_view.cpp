@@ -1,0 +1,170 @@
+#include "ui/form_view.h"
+
+#include "controls/label.h"
+#include "ui/boxes.h"
+#include "ui/layouts.h"
+#include "ui/link_label.h"
+
+#include <QDialog>
+#include <QHash>
+#include <QKeyEvent>
+#include <QMainWindow>
+#include <QMouseEvent>
+#include <QShortcut>
+
+namespace lodge {
+
+namespace {
+
+/// What a form without a layout of its own is shown as.
+constexpr const char* blankLayout = "blank";
+/// What a widget asks for that shows the caption of its form.
+constexpr const char* ofTheForm = "form";
+
+std::unique_ptr<QWidget> layoutOf(const Form& form) {
+    std::unique_ptr<QWidget> root = makeLayout(form.name());
+    return root != nullptr ? std::move(root) : makeLayout(blankLayout);
+}
+
+} // namespace
+
+FormView::FormView(Form& form, UserDoor& door) : form_(&form), door_(door), root_(layoutOf(form).release()) {
+    bindControls();
+    bindKeys();
+    bindLinks();
+    for (const std::unique_ptr<ControlView>& view : views_) {
+        view->paintAll();
+    }
+    paintForm();
+    root_->installEventFilter(this);
+}
+
+FormView::~FormView() {
+    views_.clear();
+    delete root_; // not there any more when the window that it lay in went first
+}
+
+bool FormView::isWindow() const {
+    return qobject_cast<QDialog*>(root_) != nullptr || qobject_cast<QMainWindow*>(root_) != nullptr;
+}
+
+void FormView::bindControls() {
+    QHash<QString, QWidget*> widgets;
+    for (QWidget* widget : root_->findChildren<QWidget*>()) {
+        widgets.insert(widget->objectName(), widget);
+    }
+    for (Control* control : form_->controls()) {
+        QWidget* widget = widgets.value(widgetName(*control));
+        if (widget == nullptr) {
+            continue; // hidden for good
+        }
+        std::unique_ptr<ControlView> view = makeView(*control, *widget, door_);
+        if (view == nullptr) {
+            qFatal("%s.%s: the layout has a widget of another kind", form_->name().c_str(),
+                control->fullName().c_str());
+        }
+        byControl_.emplace(control, view.get());
+        views_.push_back(std::move(view));
+    }
+}
+
+void FormView::bindKeys() {
+    for (const auto& [control, view] : byControl_) {
+        const QString key = view->widget()->property("keyHint").toString();
+        if (!key.isEmpty()) {
+            auto* shortcut = new QShortcut(QKeySequence(key), view->widget());
+            connect(shortcut, &QShortcut::activated, view, [this, view = view] {
+                if (view->control() != nullptr) {
+                    door_.press(*view->control());
+                }
+            });
+        }
+    }
+}
+
+void FormView::bindLinks() {
+    for (LinkLabel* link : root_->findChildren<LinkLabel*>()) {
+        connect(link, &LinkLabel::followed, this,
+            [this, item = link->target().toStdString()] { door_.openItem(item); });
+    }
+}
+
+ControlView* FormView::find(const Control& control) const {
+    const auto found = byControl_.find(&control);
+    return found == byControl_.end() ? nullptr : found->second;
+}
+
+void FormView::paint(Control& control, Aspect aspect) {
+    if (ControlView* view = find(control)) {
+        view->paint(aspect);
+    }
+    if (aspect == Aspect::Caption && control.kind() == ControlKind::Frame) {
+        paintCaptions(control.name(), static_cast<const Frame&>(control).caption());
+    }
+}
+
+void FormView::paintForm() {
+    root_->setWindowTitle(shownText(form_->caption()));
+    root_->setEnabled(form_->enabled());
+    paintCaptions(ofTheForm, form_->caption());
+    for (const Control* control : form_->controls()) {
+        if (control->kind() == ControlKind::Frame) {
+            paintCaptions(control->name(), static_cast<const Frame*>(control)->caption());
+        }
+    }
+}
+
+void FormView::paintCaptions(const std::string& of, const std::string& caption) {
+    const QString name = QString::fromStdString(of);
+    for (QWidget* widget : root_->findChildren<QWidget*>()) {
+        if (widget->property("captionOf").toString() == name) {
+            widget->setProperty("text", shownText(caption));
+        }
+    }
+}
+
+void FormView::letGo() {
+    form_ = nullptr;
+    for (const std::unique_ptr<ControlView>& view : views_) {
+        view->letGo();
+    }
+}
+
+bool FormView::keyPressed(const QKeyEvent& event) {
+    switch (event.key()) {
+    case Qt::Key_Escape:
+        if (qobject_cast<QDialog*>(root_) == nullptr) {
+            return false;
+        }
+        door_.act([this](User& user) { user.close(*form_); });
+        return true;
+    // These come here only when nothing has the focus.
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab: door_.settleSoon(); return true;
+    default: return false;
+    }
+}
+
+bool FormView::eventFilter(QObject* watched, QEvent* event) {
+    if (form_ == nullptr || watched != root_) {
+        return false;
+    }
+    switch (event->type()) {
+    case QEvent::Close:
+        // The program decides what becomes of its windows.
+        event->ignore();
+        door_.act([this](User& user) { user.close(*form_); });
+        return true;
+    case QEvent::MouseButtonPress: {
+        const MouseGesture gesture = gestureOf(*static_cast<QMouseEvent*>(event));
+        door_.act([&](User& user) { user.mouse(*form_, gesture); });
+        return false;
+    }
+    case QEvent::KeyPress: return keyPressed(*static_cast<QKeyEvent*>(event));
+    default: return false;
+    }
+}
+
+} // namespace lodge

@@ -1,0 +1,61 @@
+#include "ui/sheet_title.h"
+
+#include "ui/type.h"
+
+#include <QPainter>
+
+namespace lodge {
+
+namespace {
+
+constexpr int titleHeight = 50;
+constexpr int gap = 12;
+/// Marks stand higher above the line than they hang below it.
+constexpr int baseline = 32;
+
+QFont nameFont() { return fontOf(typeOf(QStringLiteral("sheetHead"))); }
+QFont remarkFont() { return fontOf(typeOf(QStringLiteral("sheetName"))); }
+
+} // namespace
+
+SheetTitle::SheetTitle(QWidget* parent) : QWidget(parent) {
+    setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
+}
+
+void SheetTitle::setText(const QString& text) {
+    text_ = text;
+    setAccessibleName(text);
+    updateGeometry();
+    update();
+}
+
+QString SheetTitle::name() const { return text_.section(QStringLiteral(" ("), 0, 0); }
+
+QString SheetTitle::remark() const {
+    return remark_.isEmpty() ? text_.mid(name().size()).trimmed() : remark_;
+}
+
+void SheetTitle::setRemark(const QString& remark) {
+    remark_ = remark;
+    updateGeometry();
+    update();
+}
+
+QSize SheetTitle::sizeHint() const {
+    const int first = QFontMetrics(nameFont()).horizontalAdvance(name());
+    const int second = QFontMetrics(remarkFont()).horizontalAdvance(remark());
+    return {first + (remark().isEmpty() ? 0 : gap + second) + 2, titleHeight};
+}
+
+void SheetTitle::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.setFont(nameFont());
+    painter.setPen(palette().color(QPalette::Link));
+    painter.drawText(0, baseline, name());
+    const int after = painter.fontMetrics().horizontalAdvance(name()) + gap;
+    painter.setFont(remarkFont());
+    painter.setPen(palette().color(QPalette::WindowText));
+    painter.drawText(after, baseline, remark());
+}
+
+} // namespace lodge

@@ -1,0 +1,37 @@
+// The title of a sheet or card, as the paper form sets it: the name in bold, what stands in brackets behind
+// it lighter, on one baseline.
+#pragma once
+
+#include <QWidget>
+
+namespace lodge {
+
+class SheetTitle : public QWidget {
+    Q_OBJECT
+    Q_PROPERTY(QString text READ text WRITE setText)
+    Q_PROPERTY(QString remark READ remark WRITE setRemark)
+
+  public:
+    explicit SheetTitle(QWidget* parent = nullptr);
+
+    [[nodiscard]] const QString& text() const { return text_; }
+    /// "แบบที่ 1 (บันทึกข้อมูลใหม่)"; the lighter part begins at the first bracket behind a blank.
+    void setText(const QString& text);
+    /// The lighter part: what a layout gives, or else what the text has in brackets.
+    [[nodiscard]] QString remark() const;
+    void setRemark(const QString& remark);
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    [[nodiscard]] QString name() const;
+
+    QString text_;
+    QString remark_;
+};
+
+} // namespace lodge

@@ -1,0 +1,59 @@
+#include "ui/show_views.h"
+
+#include "ui/boxes.h"
+
+#include <QMouseEvent>
+
+namespace lodge {
+
+namespace {
+
+/// How far the figure of a box stands further in than that of a label: its border and what the toolkit adds.
+constexpr int boxInset = 3;
+
+/// Has the points of amounts with and without brackets stand below one another, and below those of boxes.
+void alignPoint(QLabel& amount) {
+    const int bracket = amount.fontMetrics().horizontalAdvance(QLatin1Char(')'));
+    amount.setIndent(boxInset + (amount.text().endsWith(QLatin1Char(')')) ? 0 : bracket));
+}
+
+} // namespace
+
+bool PanelView::mousePressed(QMouseEvent& event) {
+    if (ControlView::mousePressed(event)) {
+        return true;
+    }
+    held_ = event.button() == Qt::LeftButton && static_cast<bool>(control()->onClick);
+    // What neither clicks nor feels leaves the press to what lies below.
+    return held_ || gesture(event);
+}
+
+bool PanelView::mouseReleased(QMouseEvent& event) {
+    if (held_ && widget()->rect().contains(event.position().toPoint())) {
+        door().act([this](User& user) { user.click(*control()); });
+    }
+    const bool mine = held_;
+    held_ = false;
+    return mine;
+}
+
+LabelView::LabelView(Control& control, QLabel& label, UserDoor& door)
+    : PanelView(control, label, door), label_(label) {
+    label.setTextFormat(Qt::PlainText);
+}
+
+void LabelView::paint(Aspect aspect) {
+    if (aspect == Aspect::Caption) {
+        const QString caption = shownText(static_cast<const Label&>(*control()).caption());
+        if (label_.text() != caption) {
+            label_.setText(caption);
+        }
+        if (label_.property("amount").toBool()) {
+            alignPoint(label_);
+        }
+    } else {
+        PanelView::paint(aspect);
+    }
+}
+
+} // namespace lodge

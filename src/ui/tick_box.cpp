@@ -1,0 +1,110 @@
+#include "ui/tick_box.h"
+
+#include <QPainter>
+#include <QStyle>
+#include <QStyleOptionButton>
+
+#include <algorithm>
+
+namespace lodge {
+
+namespace {
+
+/// A row of one line, the space above and below the lines of a longer caption, and the least width in which
+/// a caption still reads well.
+constexpr int rowHeight = 26;
+constexpr int margin = 1;
+constexpr int leastCaptionWidth = 180;
+constexpr int captionFlags = Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap | Qt::TextShowMnemonic;
+
+/// The caption as it is drawn: "11/4" is never broken behind its stroke.
+QString drawnCaption(const QAbstractButton& button) {
+    QString text = button.text();
+    return text.replace(QLatin1Char('/'), QStringLiteral("/\u2060"));
+}
+
+int indicatorSide(const QWidget& widget) {
+    return widget.style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, &widget);
+}
+
+int captionLeft(const QWidget& widget) {
+    return indicatorSide(widget)
+           + widget.style()->pixelMetric(QStyle::PM_CheckBoxLabelSpacing, nullptr, &widget);
+}
+
+int captionWidth(const QAbstractButton& button) {
+    return button.fontMetrics().size(Qt::TextShowMnemonic, drawnCaption(button)).width();
+}
+
+int heightFor(const QAbstractButton& button, int width) {
+    const QRect room(0, 0, std::max(1, width - captionLeft(button)), 10000);
+    const int text = button.fontMetrics().boundingRect(room, captionFlags, drawnCaption(button)).height();
+    return std::max(rowHeight, text + 2 * margin);
+}
+
+QSize wholeSize(const QAbstractButton& button) {
+    return {captionLeft(button) + captionWidth(button) + 1, rowHeight};
+}
+
+QSize leastSize(const QAbstractButton& button) {
+    return {captionLeft(button) + std::min(captionWidth(button) + 1, leastCaptionWidth), rowHeight};
+}
+
+void letWrap(QWidget& widget) {
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Minimum);
+    policy.setHeightForWidth(true);
+    widget.setSizePolicy(policy);
+}
+
+void paint(QAbstractButton& button, const QStyleOptionButton& option, QStyle::PrimitiveElement indicator) {
+    QPainter painter(&button);
+    QStyleOptionButton mark = option;
+    mark.rect = indicatorRect(button);
+    button.style()->drawPrimitive(indicator, &mark, &painter, &button);
+    const QRect room = button.rect().adjusted(captionLeft(button), margin, 0, 0);
+    const QPalette::ColorGroup group = button.isEnabled() ? QPalette::Active : QPalette::Disabled;
+    painter.setPen(button.palette().color(group, QPalette::WindowText));
+    painter.drawText(room, captionFlags, drawnCaption(button));
+}
+
+} // namespace
+
+bool isChoice(const QWidget& widget) { return qobject_cast<const QRadioButton*>(&widget) != nullptr; }
+
+bool isTick(const QWidget& widget) {
+    return qobject_cast<const QCheckBox*>(&widget) != nullptr || isChoice(widget);
+}
+
+QRect indicatorRect(const QWidget& widget) {
+    const int side = indicatorSide(widget);
+    return {0, (rowHeight - side) / 2, side, side};
+}
+
+TickBox::TickBox(QWidget* parent) : QCheckBox(parent) { letWrap(*this); }
+QSize TickBox::sizeHint() const { return wholeSize(*this); }
+QSize TickBox::minimumSizeHint() const { return leastSize(*this); }
+int TickBox::heightForWidth(int width) const { return heightFor(*this, width); }
+bool TickBox::hitButton(const QPoint& place) const { return rect().contains(place); }
+
+void TickBox::paintEvent(QPaintEvent* /*event*/) {
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    paint(*this, option, QStyle::PE_IndicatorCheckBox);
+}
+
+ChoiceBox::ChoiceBox(QWidget* parent) : QRadioButton(parent) {
+    letWrap(*this);
+    setAutoExclusive(false); // the rules decide which choices exclude one another
+}
+QSize ChoiceBox::sizeHint() const { return wholeSize(*this); }
+QSize ChoiceBox::minimumSizeHint() const { return leastSize(*this); }
+int ChoiceBox::heightForWidth(int width) const { return heightFor(*this, width); }
+bool ChoiceBox::hitButton(const QPoint& place) const { return rect().contains(place); }
+
+void ChoiceBox::paintEvent(QPaintEvent* /*event*/) {
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    paint(*this, option, QStyle::PE_IndicatorRadioButton);
+}
+
+} // namespace lodge

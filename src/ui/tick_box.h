@@ -1,0 +1,47 @@
+// Check boxes and option buttons whose captions wrap at Thai word boundaries, which the toolkit's own do not.
+#pragma once
+
+#include <QCheckBox>
+#include <QRadioButton>
+
+namespace lodge {
+
+class TickBox : public QCheckBox {
+    Q_OBJECT
+
+  public:
+    explicit TickBox(QWidget* parent = nullptr);
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+    [[nodiscard]] bool hasHeightForWidth() const override { return true; }
+    [[nodiscard]] int heightForWidth(int width) const override;
+
+  protected:
+    [[nodiscard]] bool hitButton(const QPoint& place) const override;
+    void paintEvent(QPaintEvent* event) override;
+};
+
+class ChoiceBox : public QRadioButton {
+    Q_OBJECT
+
+  public:
+    explicit ChoiceBox(QWidget* parent = nullptr);
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+    [[nodiscard]] bool hasHeightForWidth() const override { return true; }
+    [[nodiscard]] int heightForWidth(int width) const override;
+
+  protected:
+    [[nodiscard]] bool hitButton(const QPoint& place) const override;
+    void paintEvent(QPaintEvent* event) override;
+};
+
+/// Whether a widget has an indicator beside its caption, and whether that is round.
+[[nodiscard]] bool isTick(const QWidget& widget);
+[[nodiscard]] bool isChoice(const QWidget& widget);
+/// Where the indicator of such a widget stands in it: beside the first line of the caption.
+[[nodiscard]] QRect indicatorRect(const QWidget& widget);
+
+} // namespace lodge

@@ -1,0 +1,85 @@
+#include "ui/tool_button.h"
+
+#include "ui/type.h"
+
+#include <QEvent>
+#include <QPainter>
+
+namespace lodge {
+
+namespace {
+
+constexpr int toolHeight = 34;
+constexpr int padding = 9;
+constexpr int leastPadding = 4;
+constexpr int iconGap = 6;
+constexpr int hintGap = 8;
+
+QFont hintFont() { return fontOf(typeOf(QStringLiteral("tag"))); }
+
+} // namespace
+
+ToolButton::ToolButton(QWidget* parent) : QAbstractButton(parent) {
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    setAttribute(Qt::WA_Hover);
+}
+
+void ToolButton::setKeyHint(const QString& hint) {
+    keyHint_ = hint;
+    updateGeometry();
+    update();
+}
+
+int ToolButton::captionWidth() const { return fontMetrics().size(Qt::TextShowMnemonic, text()).width(); }
+
+int ToolButton::hintWidth() const {
+    return keyHint_.isEmpty() ? 0 : QFontMetrics(hintFont()).horizontalAdvance(keyHint_) + hintGap;
+}
+
+int ToolButton::iconWidth() const { return icon().isNull() ? 0 : iconSize().width() + iconGap; }
+
+QSize ToolButton::sizeHint() const {
+    return {2 * padding + iconWidth() + captionWidth() + hintWidth(), toolHeight};
+}
+
+QSize ToolButton::minimumSizeHint() const {
+    return {2 * leastPadding + iconWidth() + captionWidth(), toolHeight};
+}
+
+bool ToolButton::event(QEvent* event) {
+    if (event->type() == QEvent::HoverEnter || event->type() == QEvent::HoverLeave) {
+        update();
+    }
+    return QAbstractButton::event(event);
+}
+
+void ToolButton::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const bool open = isEnabled();
+    if (open && (isDown() || isChecked() || underMouse())) {
+        painter.setPen(isChecked() ? QPen(palette().color(QPalette::Link), 1) : QPen(Qt::NoPen));
+        painter.setBrush(
+            palette().color(isDown() || isChecked() ? QPalette::Midlight : QPalette::AlternateBase));
+        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
+    }
+    const bool whole = width() >= 2 * leastPadding + iconWidth() + captionWidth() + hintWidth();
+    const int content = iconWidth() + captionWidth() + (whole ? hintWidth() : 0);
+    int x = std::max(leastPadding, (width() - content) / 2);
+    if (!icon().isNull()) {
+        const QRect place(QPoint(x, (height() - iconSize().height()) / 2), iconSize());
+        icon().paint(&painter, place, Qt::AlignCenter, open ? QIcon::Normal : QIcon::Disabled);
+        x += iconWidth();
+    }
+    painter.setPen(palette().color(open ? QPalette::Active : QPalette::Disabled, QPalette::ButtonText));
+    painter.drawText(QRect(x, 0, captionWidth() + 1, height()),
+        Qt::AlignVCenter | Qt::AlignLeft | Qt::TextShowMnemonic, text());
+    if (whole && !keyHint_.isEmpty()) {
+        painter.setFont(hintFont());
+        painter.setPen(palette().color(QPalette::PlaceholderText));
+        painter.drawText(QRect(x + captionWidth() + hintGap, 0, hintWidth(), height()),
+            Qt::AlignVCenter | Qt::AlignLeft, keyHint_);
+    }
+}
+
+} // namespace lodge
