@@ -5,6 +5,7 @@
 #include "file/return_file.h"
 #include "file/store_load.h"
 #include "state/field_names.h"
+#include "state/item8_sum.h"
 #include "state/return_state.h"
 
 #include <CLI/CLI.hpp>
@@ -78,7 +79,7 @@ void showFiles(CommandContext& context, const ShowOptions& options) {
             reportFault(context, file, read.cause);
             continue;
         }
-        sumItem8(state);
+        sumItem8Lines15To26(state);
         reportDamage(context, file, read.damagedLines);
         if (options.asJson) {
             all.push_back(asJson(state, options, file, read));

@@ -4,6 +4,7 @@
 #include "file/file_io.h"
 #include "file/safe_writer.h"
 #include "state/filing.h"
+#include "state/item8_sum.h"
 #include "values/money.h"
 #include "values/text.h"
 
@@ -34,7 +35,7 @@ ReadResult readInto(ReturnState& state, std::string_view text, int machineYear) 
     state.beginReturn(IhqRecord::Keep);
     ReadResult result = readReturn(text, state);
     if (result.status == ReadStatus::Loaded) {
-        sumItem8(state);
+        sumItem8Lines15To26(state);
         setPeriod(state, machineYear);
     } else {
         // What was read before the text turned out to be unreadable must not stay.
@@ -66,21 +67,6 @@ ReadResult loadReturn(const std::string& path, ReturnState& state, int machineYe
     if (archive.fault != ArchiveFault::None)
         return unreadable(faultText(archive.fault), std::string(faultCause(archive.fault)));
     return readInto(state, archive.members.front().content, machineYear);
-}
-
-void sumItem8(ReturnState& state) {
-    constexpr std::size_t line15 = 62; // Total column of lines 15 and 16; the further lines are packed texts.
-    constexpr std::size_t line16 = 63;
-    constexpr std::size_t firstPacked = 75;
-    constexpr std::size_t lastPacked = 84;
-    constexpr std::size_t totalColumn = 3;
-    const FieldArray& page = state.strFldPage5_8;
-    double sum = readFigure(page[line16]) + readFigure(page[line15]);
-    for (std::size_t entry = firstPacked; entry <= lastPacked; ++entry) {
-        const auto columns = splitBar(page[entry]);
-        if (columns.size() > totalColumn) sum += readFigure(columns[totalColumn]);
-    }
-    state.FucChk.TmpSum8_15to25 = sum;
 }
 
 StoreResult storeReturn(FileOperations& files, ReturnState& state, std::string_view folder,

@@ -34,9 +34,6 @@ std::string packedPathOf(std::string_view innerPath);
 /// the flags that the start screen sets: intNewReturn, blnNeedPage2.
 ReadResult loadReturn(const std::string& path, ReturnState& state, int machineYear);
 
-/// Recomputes the sum of item 8 lines 15 to 26 (FucChk.TmpSum8_15to25) from its fields.
-void sumItem8(ReturnState& state);
-
 struct StoreResult {
     std::string packedPath;
     std::string error; ///< Text to show; empty when stored.

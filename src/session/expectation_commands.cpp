@@ -1,10 +1,10 @@
 #include "file/file_io.h"
+#include "program/checks.h"
 #include "session/commands.h"
 #include "session/fault.h"
 #include "session/pattern.h"
 #include "session/session.h"
 #include "session/value_services.h"
-#include "values/messages.h"
 
 #include <algorithm>
 #include <array>
@@ -48,13 +48,6 @@ void show(Session& session, const Words& words) {
 }
 
 // --- Boxes ---
-
-/// The whole text of a catalogue code, any other text itself.
-std::string messageText(const std::string& codeOrText) {
-    const auto rows = messageRows();
-    const auto row = std::ranges::find(rows, codeOrText, &MessageRow::code);
-    return row == rows.end() ? codeOrText : std::string(row->text);
-}
 
 void expectMessage(Session& session, const Words& words) {
     const std::string text = messageText(words[0]);
