@@ -52,6 +52,9 @@ void ReturnCommands::clearAll() {
 
 void ReturnCommands::clearPage(const PageRow& row) {
     ReturnState& state = program_.state;
+    if (row.code != page::first) {
+        program_.desk.unload(row.form); // first: a page that is unloaded writes some of its figures back
+    }
     switch (row.code) {
     case page::first:
         state.DataCtrl_P1.IndcBusType.clear();
@@ -74,14 +77,13 @@ void ReturnCommands::clearPage(const PageRow& row) {
     default: break;
     }
     // The page comes back blank; its array keeps what was stored until the page is stored again.
-    program_.desk.unload(row.form);
     navigation_.ShowBlank(row.code);
 }
 
 void ReturnCommands::endReturn() {
-    program_.state.putAway();
     program_.shell().EnableTools(false);
-    program_.desk.unloadAllExcept(MDILodge::formName);
+    program_.desk.unloadAllExcept(MDILodge::formName); // first, for the same reason
+    program_.state.putAway();
     program_.desk.show(frmLodgeStart::formName);
 }
 
