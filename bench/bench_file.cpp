@@ -120,11 +120,11 @@ void load(benchmark::State& rounds) {
 
 void cliLines(benchmark::State& rounds) {
     for ([[maybe_unused]] const auto round : rounds)
-        runProgram(LODGE_CLI, "lines", LODGE_RETURN);
+        runProgram({LODGE_CLI, "lines", LODGE_RETURN});
 }
 void cliYardstick(benchmark::State& rounds) {
     for ([[maybe_unused]] const auto round : rounds)
-        runProgram(LODGE_OPEN_ARCHIVE, LODGE_RETURN);
+        runProgram({LODGE_OPEN_ARCHIVE, LODGE_RETURN});
 }
 
 // Many short repetitions in turn rather than one long one each: what else the machine does falls on both

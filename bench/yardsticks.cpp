@@ -9,6 +9,7 @@
 #include <fcntl.h>
 #include <spawn.h>
 #include <stdexcept>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <zlib.h>
@@ -133,18 +134,24 @@ void writeSynced(const std::string& folder, const std::string& name, std::string
     demand(directory >= 0 && ::fsync(directory) == 0 && ::close(directory) == 0, "fsync of the folder");
 }
 
-void runProgram(const char* program, const char* first, const char* second) {
+long runProgram(const std::vector<std::string>& call) {
+    std::vector<char*> arguments;
+    arguments.reserve(call.size() + 1);
+    for (const std::string& word : call)
+        arguments.push_back(const_cast<char*>(word.c_str()));
+    arguments.push_back(nullptr);
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
-    std::array<char*, 4> arguments{
-        const_cast<char*>(program), const_cast<char*>(first), const_cast<char*>(second), nullptr};
     pid_t child = 0;
-    const int started = posix_spawn(&child, program, &actions, nullptr, arguments.data(), environ);
+    const int started = posix_spawn(&child, arguments.front(), &actions, nullptr, arguments.data(), environ);
     posix_spawn_file_actions_destroy(&actions);
     demand(started == 0, "posix_spawn");
     int status = 0;
-    demand(::waitpid(child, &status, 0) == child && WIFEXITED(status) && WEXITSTATUS(status) == 0, program);
+    rusage used = {};
+    demand(::wait4(child, &status, 0, &used) == child && WIFEXITED(status) && WEXITSTATUS(status) == 0,
+        arguments.front());
+    return used.ru_maxrss;
 }
 
 } // namespace lodge::bench

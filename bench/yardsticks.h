@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace lodge::bench {
 
@@ -19,7 +20,8 @@ std::string inflateByZlib(std::string_view packed);
 /// A file written, synced, renamed, its folder synced: the system calls of a safe store and nothing else.
 void writeSynced(const std::string& folder, const std::string& name, std::string_view bytes);
 
-/// Runs a program with one or two arguments, its output thrown away, and waits for its end.
-void runProgram(const char* program, const char* first, const char* second = nullptr);
+/// Runs a program, named by its path before its arguments, throws its output away and waits for its end. The
+/// most memory that it held, KiB.
+long runProgram(const std::vector<std::string>& call);
 
 } // namespace lodge::bench

@@ -7,12 +7,14 @@
 namespace lodge {
 
 const std::vector<AddCommand>& commands() {
-    static const std::vector<AddCommand> table{addLinesCommand, addShowCommand, addRunCommand};
+    static const std::vector<AddCommand> table{
+        addCheckCommand, addLinesCommand, addShowCommand, addPrintCommand, addRunCommand};
     return table;
 }
 
 int runCli(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err) {
     CLI::App app{"lodge77-cli works on corporate income-tax returns, form ก.ข.ค.77, without a screen."};
+    app.set_version_flag("--version", "lodge77-cli " LODGE_VERSION);
     app.require_subcommand(1);
     app.get_formatter()->column_width(28);
     CommandContext context{out, err};

@@ -28,7 +28,9 @@ struct CommandContext {
 /// outlives the callback.
 using AddCommand = void (*)(CLI::App& app, CommandContext& context);
 
+void addCheckCommand(CLI::App& app, CommandContext& context);
 void addLinesCommand(CLI::App& app, CommandContext& context);
+void addPrintCommand(CLI::App& app, CommandContext& context);
 void addRunCommand(CLI::App& app, CommandContext& context);
 void addShowCommand(CLI::App& app, CommandContext& context);
 

@@ -1,6 +1,7 @@
 // `lodge77-cli run`: a session script over the whole program.
 
 #include "cli/cli.h"
+#include "program/program_folder.h"
 #include "session/run_script.h"
 
 #include <CLI/CLI.hpp>
@@ -9,7 +10,6 @@
 #include <iostream>
 #include <memory>
 #include <string>
-#include <system_error>
 #include <vector>
 
 namespace lodge {
@@ -23,13 +23,6 @@ struct RunOptions {
     bool keepGoing = false;
 };
 
-/// Everything that the program reads stands beside its executable.
-std::filesystem::path folderOfExecutable() {
-    std::error_code failed;
-    const std::filesystem::path executable = std::filesystem::read_symlink("/proc/self/exe", failed);
-    return failed ? std::filesystem::current_path() : executable.parent_path();
-}
-
 void run(CommandContext& context, const RunOptions& options) {
     const auto defines = parseDefines(options.defines);
     if (!defines) {
@@ -39,7 +32,7 @@ void run(CommandContext& context, const RunOptions& options) {
     }
     const ScriptRun scriptRun{.script = options.script,
         .programFolder = options.programFolder.empty()
-                             ? folderOfExecutable()
+                             ? programFolder()
                              : std::filesystem::absolute(options.programFolder).lexically_normal(),
         .defines = *defines,
         .keepGoing = options.keepGoing};
@@ -54,7 +47,8 @@ void addRunCommand(CLI::App& app, CommandContext& context) {
     command->add_option("SCRIPT", options->script, "A UTF-8 text file, or - for standard input")->required();
     command
         ->add_option("--program-folder", options->programFolder,
-            "The folder in which the program's files stand (default: that of the executable)")
+            "The folder in which the program's files stand (default: that of the executable; where it is "
+            "installed for all users, ~/.local/share/lodge77)")
         ->type_name("DIR")
         ->check(CLI::ExistingDirectory);
     command->add_option("--define", options->defines, "What ${NAME} stands for in the script")

@@ -3,13 +3,13 @@
 #include "cli/cli.h"
 #include "cli/stored_files.h"
 #include "file/return_file.h"
+#include "file/return_json.h"
 #include "file/store_load.h"
 #include "state/field_names.h"
 #include "state/item8_sum.h"
 #include "state/return_state.h"
 
 #include <CLI/CLI.hpp>
-#include <nlohmann/json.hpp>
 
 #include <memory>
 #include <ostream>
@@ -42,26 +42,11 @@ std::string inQuotes(std::string_view text) {
     return result + '"';
 }
 
-template <typename Visit>
-void visitValues(ReturnState& state, const ShowOptions& options, const Visit& visit) {
+void printPlain(CommandContext& context, ReturnState& state, const ShowOptions& options) {
     forEachStateValue(state, [&](const std::string& name, const StateValue& value) {
         const std::string text = value.get();
-        if (!options.filledOnly || !text.empty()) visit(name, text);
+        if (!options.filledOnly || !text.empty()) context.out << name << " = " << inQuotes(text) << '\n';
     });
-}
-
-void printPlain(CommandContext& context, ReturnState& state, const ShowOptions& options) {
-    visitValues(state, options, [&](const std::string& name, const std::string& text) {
-        context.out << name << " = " << inQuotes(text) << '\n';
-    });
-}
-
-nlohmann::ordered_json asJson(
-    ReturnState& state, const ShowOptions& options, const std::string& file, const ReadResult& read) {
-    nlohmann::ordered_json fields = nlohmann::ordered_json::object();
-    visitValues(
-        state, options, [&](const std::string& name, const std::string& text) { fields[name] = text; });
-    return {{"file", file}, {"damagedLines", read.damagedLines}, {"fields", std::move(fields)}};
 }
 
 void showFiles(CommandContext& context, const ShowOptions& options) {
@@ -82,15 +67,15 @@ void showFiles(CommandContext& context, const ShowOptions& options) {
         sumItem8Lines15To26(state);
         reportDamage(context, file, read.damagedLines);
         if (options.asJson) {
-            all.push_back(asJson(state, options, file, read));
+            all.push_back(returnJson(state, file, read.damagedLines,
+                options.filledOnly ? JsonFields::FilledOnly : JsonFields::All));
             continue;
         }
         if (options.files.size() > 1) printHeading(context, file, isFirst);
         isFirst = false;
         printPlain(context, state, options);
     }
-    if (options.asJson)
-        context.out << all.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) << '\n';
+    if (options.asJson) context.out << jsonText(all);
 }
 
 } // namespace

@@ -164,22 +164,28 @@ void readRow(const LayoutRow& row, std::size_t line, const FileLine& content, Re
 // Cuts a text at carriage return, line feed or both.
 class LineCutter {
   public:
-    explicit LineCutter(std::string_view text) : rest(text) {}
+    explicit LineCutter(std::string_view text)
+        : text(text), carriageReturn(text.find('\r')), lineFeed(text.find('\n')) {}
 
     std::optional<std::string_view> next() {
-        if (rest.empty()) return std::nullopt;
-        const std::size_t end = rest.find_first_of(lineEnd);
-        const std::string_view line = rest.substr(0, end);
-        if (end == std::string_view::npos) {
-            rest = {};
-        } else {
-            rest.remove_prefix(rest.substr(end).starts_with(lineEnd) ? end + lineEnd.size() : end + 1);
-        }
+        if (at >= text.size()) return std::nullopt;
+        const std::size_t end = std::min({upTo('\r', carriageReturn), upTo('\n', lineFeed), text.size()});
+        const std::string_view line = text.substr(at, end - at);
+        at = end + (text.substr(end).starts_with(lineEnd) ? lineEnd.size() : 1);
         return line;
     }
 
   private:
-    std::string_view rest;
+    // Where the character comes next; each is looked for once, however seldom it comes.
+    std::size_t upTo(char character, std::size_t& known) const {
+        if (known < at) known = text.find(character, at);
+        return known;
+    }
+
+    std::string_view text;
+    std::size_t at = 0;
+    std::size_t carriageReturn;
+    std::size_t lineFeed;
 };
 
 // An encoded line whose first digit was damaged looks like a plain one; the check value still tells.

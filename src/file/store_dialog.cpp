@@ -4,6 +4,7 @@
 #include "file/safe_writer.h"
 #include "file/store_load.h"
 #include "state/filing.h"
+#include "state/tax_fields.h"
 #include "values/text.h"
 
 #include <chrono>
@@ -114,6 +115,9 @@ void frmLodgeDirec::cmdOk_Click() {
     if (!writeReturn(program_, folder, txtUserID.text())) {
         return; // the dialog stays with its content, so that another folder can be chosen
     }
+    if (onStored) {
+        onStored();
+    }
     if (program_.state.strStoreType == "N") {
         desk().unload(formName);
         program_.show({.text = "จัดเก็บข้อมูล(ชั่วคราว) เรียบร้อย", .title = "ข้อความแจ้งให้ทราบ"});
@@ -136,11 +140,19 @@ frmLodgeDisp1::frmLodgeDisp1(Program& program)
     LblMessage2.setCaption("ใช้สำหรับ Upload ในการยื่นแบบภาษีเงินได้ ก.ข.ค.77");
     CmdPrint.setCaption("พิมพ์");
     CmdSaveExit.setCaption("ทำรายการใหม่");
-    CmdPrint.onClick = [this] { program_.shell().PrintReturn(); };
+    CmdPrint.onClick = [this] { CmdPrint_Click(); };
     CmdSaveExit.onClick = [this] { program_.shell().EndReturn(); };
 }
 
 void frmLodgeDisp1::Form_Load() { LblMessage3.setCaption(packedPathOf(program_.state.strFileName)); }
+
+void frmLodgeDisp1::CmdPrint_Click() {
+    // The way into the store left page 2 by its unloading, which puts the income where the tax belongs.
+    ReturnState& state = program_.state;
+    restoreTaxFields(state);
+    state.strFldPage2[33] = state.DataCtrl_P2.TaxValue;
+    program_.shell().PrintReturn();
+}
 
 void frmLodgeDisp1::closedByFrame() {
     program_.shell().EnableTools(true);

@@ -8,6 +8,8 @@
 #include "controls/text_box.h"
 #include "program/program.h"
 
+#include <functional>
+
 namespace lodge {
 
 class frmLodgeDirec : public Form {
@@ -27,6 +29,9 @@ class frmLodgeDirec : public Form {
     Label Label1{*this, "Label1"};
     CommandButton cmdOk{*this, "cmdOk"};
     CommandButton cmdExit{*this, "cmdExit"};
+
+    /// Told once the return is in its file, complete or temporary.
+    std::function<void()> onStored;
 
     void Form_Load() override;
     void closedByFrame() override { cmdExit_Click(); }
@@ -58,6 +63,8 @@ class frmLodgeDisp1 : public Form {
     void closedByFrame() override;
 
   private:
+    void CmdPrint_Click();
+
     Program& program_;
 };
 

@@ -31,21 +31,6 @@ void setPeriod(ReturnState& state, int machineYear) {
     state.FucDate.SetCarryYears(carryYears(state));
 }
 
-ReadResult readInto(ReturnState& state, std::string_view text, int machineYear) {
-    state.beginReturn(IhqRecord::Keep);
-    ReadResult result = readReturn(text, state);
-    if (result.status == ReadStatus::Loaded) {
-        sumItem8Lines15To26(state);
-        setPeriod(state, machineYear);
-    } else {
-        // What was read before the text turned out to be unreadable must not stay.
-        state.putAway();
-        setFilingType(state);
-    }
-    state.DataCtrl_P1.StatusChanged = true;
-    return result;
-}
-
 } // namespace
 
 ReturnFileNames returnFileNames(const ReturnState& state, std::string_view userId) {
@@ -60,13 +45,28 @@ std::string packedPathOf(std::string_view innerPath) {
     return fmt::format("{}{}", innerPath.substr(0, stem), extension);
 }
 
+ReadResult loadReturnText(std::string_view text, ReturnState& state, int machineYear) {
+    state.beginReturn(IhqRecord::Keep);
+    ReadResult result = readReturn(text, state);
+    if (result.status == ReadStatus::Loaded) {
+        sumItem8Lines15To26(state);
+        setPeriod(state, machineYear);
+    } else {
+        // What was read before the text turned out to be unreadable must not stay.
+        state.putAway();
+        setFilingType(state);
+    }
+    state.DataCtrl_P1.StatusChanged = true;
+    return result;
+}
+
 ReadResult loadReturn(const std::string& path, ReturnState& state, int machineYear) {
     FileContent file = readWholeFile(nativePath(path), readingLimits.fileBytes);
     if (!file.error.empty()) return unreadable(std::move(file.text), std::move(file.error));
     const Unpacked archive = unpackArchive(file.bytes, 1);
     if (archive.fault != ArchiveFault::None)
         return unreadable(faultText(archive.fault), std::string(faultCause(archive.fault)));
-    return readInto(state, archive.members.front().content, machineYear);
+    return loadReturnText(archive.members.front().content, state, machineYear);
 }
 
 StoreResult storeReturn(FileOperations& files, ReturnState& state, std::string_view folder,

@@ -34,6 +34,9 @@ std::string packedPathOf(std::string_view innerPath);
 /// the flags that the start screen sets: intNewReturn, blnNeedPage2.
 ReadResult loadReturn(const std::string& path, ReturnState& state, int machineYear);
 
+/// The same from the text itself, for a stored return in whatever form it lies on the disk (readInnerFile).
+ReadResult loadReturnText(std::string_view text, ReturnState& state, int machineYear);
+
 struct StoreResult {
     std::string packedPath;
     std::string error; ///< Text to show; empty when stored.

@@ -36,7 +36,8 @@ void collectRefusals(const CheckContext& context, std::string_view form, std::sp
             refusals.push_back({.code = inCatalogue ? std::string(row.message) : std::string(),
                 .text = messageText(row.message),
                 .form = std::string(form),
-                .control = std::string(row.focus)});
+                .control = std::string(row.focus),
+                .sides = row.sides == nullptr ? std::nullopt : std::optional(row.sides(context))});
         }
     }
 }

@@ -7,6 +7,7 @@
 
 #include "program/program.h"
 
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -20,12 +21,20 @@ struct CheckContext {
     const Host& host;
 };
 
+/// Two amounts that a row wants equal, baht: the one at the control that the row names, and its counterpart.
+struct Sides {
+    double here = 0.0;
+    double there = 0.0;
+};
+
 struct CheckRow {
     /// A code of the message catalogue; where the catalogue has no text, the text itself.
     std::string_view message;
     /// The control of the page that the focus goes to; empty when a rule names none.
     std::string_view focus;
     bool (*refuses)(const CheckContext& context);
+    /// What a row that compares two amounts compares; nullptr for every other row.
+    Sides (*sides)(const CheckContext& context) = nullptr;
 };
 
 /// One thing that stands in the way of filing.
@@ -36,6 +45,8 @@ struct Refusal {
     /// The form and the control to mend it at.
     std::string form;
     std::string control;
+    /// Both amounts of a row that compares two.
+    std::optional<Sides> sides = std::nullopt;
 };
 
 /// The text that a row shows: the catalogue's for a code, otherwise the row's own.

@@ -40,7 +40,7 @@ struct FileDialog {
     std::filesystem::path folder = {};
 };
 
-/// Pages 1 to 10 of the printed return, both ends included.
+/// Pages 1 to 10 of the printed return, both ends included; both ends 0 are all of them.
 struct PageRange {
     int from = 1;
     int to = 10;

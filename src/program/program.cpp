@@ -53,6 +53,11 @@ std::optional<std::filesystem::path> Program::chooseFolder(const std::filesystem
     return host_.chooseFolder(start);
 }
 
+std::optional<PageRange> Program::choosePages() {
+    const TimersHeld held(desk);
+    return host_.choosePages();
+}
+
 int machineYear(const Host& host) {
     constexpr int buddhistOffset = 543;
     const int year = static_cast<int>(host.today().year());

@@ -14,6 +14,8 @@
 
 namespace lodge {
 
+class ReportEngine;
+
 class Program : public Notifier {
   public:
     explicit Program(Host& host);
@@ -26,9 +28,13 @@ class Program : public Notifier {
     [[nodiscard]] Host& host() const { return host_; }
     [[nodiscard]] ShellServices& shell() const { return *shell_; }
     [[nodiscard]] IsicTables& isic() const { return *isic_; }
+    /// What puts the return on paper; nullptr where nothing can print.
+    [[nodiscard]] ReportEngine* reports() const { return reports_; }
     /// The shell and the ISIC tables make themselves known before the first form loads.
     void attach(ShellServices& shell) { shell_ = &shell; }
     void attach(IsicTables& isic) { isic_ = &isic; }
+    /// Whoever makes the program brings what it prints with. It must outlive the program.
+    void attach(ReportEngine& reports) { reports_ = &reports; }
 
     /// Shows a box and waits; timers stand still meanwhile.
     Answer show(const Box& box);
@@ -38,15 +44,17 @@ class Program : public Notifier {
     void message(std::string_view code);
     /// Refuses: shows the message, puts the focus on the control and sets `intError`.
     void refuse(std::string_view code, Control& focus);
-    /// An input box, a file dialog or a folder dialog; timers stand still meanwhile.
+    /// An input box, a file, folder or print dialog; timers stand still meanwhile.
     std::optional<std::string> ask(const InputBox& box);
     std::optional<std::filesystem::path> chooseFile(const FileDialog& dialog);
     std::optional<std::filesystem::path> chooseFolder(const std::filesystem::path& start);
+    std::optional<PageRange> choosePages();
 
   private:
     Host& host_;
     ShellServices* shell_ = nullptr;
     IsicTables* isic_ = nullptr;
+    ReportEngine* reports_ = nullptr;
 };
 
 } // namespace lodge

@@ -24,7 +24,7 @@ class ShellServices {
     virtual void StorePageOnScreen() = 0;
     /// Switches the page on screen off while a store is under way, or on again.
     virtual void SwitchPage(bool on) = 0;
-    /// Prints the return, as the print button does.
+    /// Prints the pages of the return that the person chooses, as they stand in the arrays.
     virtual void PrintReturn() = 0;
     /// Puts the return away: everything is emptied, and the start screen comes up.
     virtual void EndReturn() = 0;

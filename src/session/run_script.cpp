@@ -1,5 +1,6 @@
 #include "session/run_script.h"
 
+#include "session/recording_engine.h"
 #include "session/session.h"
 #include "session/session_host.h"
 #include "shell/shell.h"
@@ -41,7 +42,9 @@ Substitutes substitutesOf(const ScriptRun& run) {
 
 SessionEnd runLines(const ScriptRun& run, std::istream& lines, std::ostream& out, std::ostream& errors) {
     SessionHost host(run.programFolder, out);
+    RecordingEngine reports(host);
     Program program(host);
+    program.attach(reports);
     Shell shell(program);
     Session session(program, host, [&shell] { shell.start(); });
     const SessionOptions options{

@@ -1,12 +1,12 @@
 #include "session/session_host.h"
 
+#include "program/machine_clock.h"
 #include "session/nearest_name.h"
 #include "session/words.h"
 
 #include <algorithm>
 #include <array>
 #include <cstdlib>
-#include <ctime>
 #include <string_view>
 #include <system_error>
 #include <unistd.h>
@@ -120,21 +120,13 @@ std::optional<std::filesystem::path> SessionHost::chooseFolder(const std::filesy
 
 std::optional<PageRange> SessionHost::choosePages() {
     if (pages_.empty()) {
-        stop("a print dialog without a page range queued for it");
+        return PageRange{.from = 0, .to = 0}; // nobody chose: everything
     }
     return takeFirst(pages_);
 }
 
 std::chrono::year_month_day SessionHost::today() const {
-    if (today_) {
-        return *today_;
-    }
-    const std::time_t now = std::time(nullptr);
-    std::tm local = {};
-    localtime_r(&now, &local);
-    return {std::chrono::year(local.tm_year + 1900),
-        std::chrono::month(static_cast<unsigned>(local.tm_mon) + 1),
-        std::chrono::day(static_cast<unsigned>(local.tm_mday))};
+    return today_ ? *today_ : machineToday();
 }
 
 std::string SessionHost::environment(const std::string& name) const {

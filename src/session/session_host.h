@@ -31,7 +31,7 @@ class SessionHost : public Host {
     void queueInput(std::string text) { inputs_.push_back(std::move(text)); }
     /// For the next file or folder dialog; an empty path cancels it.
     void queueFile(std::filesystem::path path) { files_.push_back(std::move(path)); }
-    /// For the next print dialog; nothing cancels it.
+    /// For the next print dialog; nothing cancels it. A dialog without a range leaves both ends 0.
     void queuePages(std::optional<PageRange> pages) { pages_.push_back(pages); }
     void setToday(std::chrono::year_month_day today) { today_ = today; }
     void setCalendar(Calendar calendar) { calendar_ = calendar; }

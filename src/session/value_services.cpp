@@ -1,6 +1,7 @@
 #include "session/value_services.h"
 
 #include "file/line_codec.h"
+#include "pages/ihq/ihq_rules.h"
 #include "pages/loss/item11_table.h"
 #include "pages/tax/green_sheet.h"
 #include "pages/tax/rate_table.h"
@@ -85,6 +86,9 @@ constexpr std::array services = {
         return plainNumberText(CalcTaxByRate(given[0], readFigure(given[1]))); }},
     Service{"FormatMoney", "TEXT", [](Program&, Given given) { return FormatMoney(given[0]); }},
     Service{"IsAmountText", "TEXT", [](Program&, Given given) { return trueOrFalse(IsAmountText(given[0])); }},
+    Service{"FormatBox", "TEXT", [](Program&, Given given) { return FormatBox(given[0]); }},
+    Service{"ChkBoxNum", "TEXT", [](Program& program, Given given) {
+        return trueOrFalse(ChkBoxNum(given[0], program)); }},
     Service{"txt2CDbl", "TEXT", [](Program&, Given given) { return plainNumberText(txt2CDbl(given[0])); }},
 };
 // clang-format on

@@ -28,6 +28,14 @@ void frmLodgeChoose::Form_Activate() {
                        "เก็บไว้ที่ "
                        + folder.string());
     lblNoWrite.setVisible(!program_.state.blnFolderWritable);
+    closeForOthers();
+}
+
+/// The attachment is for an international headquarters alone.
+void frmLodgeChoose::closeForOthers() {
+    if (Control* attachment = find(findPage(page::headquarters)->chooserButton)) {
+        attachment->setEnabled(program_.state.blnIHQPage);
+    }
 }
 
 void frmLodgeChoose::Form_Unload() { program_.state.blnChooseShown = false; }

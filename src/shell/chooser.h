@@ -28,6 +28,8 @@ class frmLodgeChoose : public PageForm {
     void Form_Unload() override;
 
   private:
+    void closeForOthers();
+
     Program& program_;
     std::vector<std::unique_ptr<CommandButton>> items_;
 };

@@ -1,6 +1,7 @@
 #include "shell/main_frame.h"
 
 #include "shell/navigation.h"
+#include "shell/page_table.h"
 #include "shell/return_commands.h"
 #include "shell/store_sequence.h"
 
@@ -51,11 +52,12 @@ void MDILodge::wireTools(const ToolCommands& commands) {
     cmdChoose.onClick = [&navigation = commands.navigation] { navigation.cmdChoose_Click(); };
     cmdSave1.onClick = [&stores = commands.stores] { stores.cmdSave1_Click(); };
     cmdSave2.onClick = [&stores = commands.stores] { stores.cmdSave2_Click(); };
-    CmdPrint.onClick = [this] { program_.shell().PrintReturn(); };
+    CmdPrint.onClick = [this] { CmdPrint_Click(); };
     CmdClear1.onClick = [&returns = commands.returns] { returns.CmdClear1_Click(); };
     CmdClear2.onClick = [&returns = commands.returns] { returns.CmdClear2_Click(); };
     cmdPageFirst.onClick = [&returns = commands.returns] { returns.cmdPageFirst_Click(); };
     cmdExit.onClick = [this] { cmdExit_Click(); };
+    Command3.onClick = [this] { program_.shell().PrintReturn(); };
     Command7.onClick = [this] { desk().show("frm_incomeEdit"); };
     Picture1.onMouseDown = [this](MousePress& press) {
         if (allKeysHeld(press.gesture)) {
@@ -98,6 +100,18 @@ void MDILodge::ShowTools(bool shown) {
 void MDILodge::EnableNav(bool enabled) {
     cmdPage1.setEnabled(enabled);
     cmdChoose.setEnabled(enabled);
+}
+
+void MDILodge::CmdPrint_Click() {
+    ShellServices& shell = program_.shell();
+    shell.StorePageOnScreen();
+    shell.ShowTools(false);
+    shell.PrintReturn();
+    shell.ShowTools(true);
+    const PageRow* page = findPage(program_.state.intPageCur);
+    if (page != nullptr && desk().find(page->form) != nullptr) {
+        desk().show(page->form);
+    }
 }
 
 void MDILodge::cmdExit_Click() {

@@ -62,6 +62,7 @@ class MDILodge : public Form {
     [[nodiscard]] std::array<CommandButton*, 9> tools();
     void captionControls();
     void wireTools(const ToolCommands& commands);
+    void CmdPrint_Click();
     void cmdExit_Click();
 
     Program& program_;

@@ -3,6 +3,8 @@
 #include "pages/filer/notification_form.h"
 #include "pages/filer/page1_checks.h"
 #include "pages/filer/page1_fields.h"
+#include "pages/ihq/ihq_checks.h"
+#include "pages/ihq/ihq_page.h"
 #include "pages/loss/item11_page.h"
 #include "pages/loss/item11_rules.h"
 #include "pages/schedules/item12_checks.h"
@@ -12,6 +14,7 @@
 #include "pages/schedules/schedule_page.h"
 #include "pages/tax/page2.h"
 #include "pages/tax/page2_checks.h"
+#include "shell/reconciliation.h"
 
 #include <algorithm>
 #include <array>
@@ -30,7 +33,12 @@ const char* idField(std::int16_t /*investment*/) { return "txtNid"; }
 /// A promoted business begins page 2 with its certificate.
 const char* taxField(std::int16_t investment) { return investment == 1 ? "txtInvestID" : "chkTaxPay(0)"; }
 
-// A page whose procedures are missing here shows an empty page of its name.
+/// Lists the rows of a check that refuse, each to be mended on its page.
+template <std::int16_t code, std::span<const CheckRow> (*rows)()>
+void collectRows(const CheckContext& context, std::vector<Refusal>& refusals) {
+    collectRefusals(context, findPage(code)->form, rows(), refusals);
+}
+
 // clang-format off
 constexpr std::array<PageRow, 14> pages = {{
     {page::first,        "frmLodgePage1",   "หน้า 1", nullptr, nullptr,
@@ -60,17 +68,21 @@ constexpr std::array<PageRow, 14> pages = {{
     {page::notification, "frmLodgePage8",   "แบบแจ้งข้อความฯ", "cmdItem13", "แบบแจ้งข้อความฯ",
      P8_ArrayToVar, P8_CheckForm, P8_DataToArray, noField},
     {page::headquarters, "frmIHQ", "ใบแนบ ก.ข.ค. 77 - สำหรับกิจการสำนักงานใหญ่ข้ามประเทศ (IHQ)", "cmdItemIHQ",
-     "   ใบแนบ ก.ข.ค.77      สำหรับกิจการIHQ", nullptr, nullptr, nullptr, noField},
+     "   ใบแนบ ก.ข.ค.77      สำหรับกิจการIHQ", IHQ_FormToBox, nullptr, IHQ_BoxToForm, noField},
 }};
 
-constexpr std::array<FullCheck, 7> checks = {{
-    {P1_CheckData, nullptr},
-    {ChkPage2, nullptr},
-    {Chk_Item5Store, nullptr},
-    {Chk_Item8Store, nullptr},
-    {Chk_Item11Store, nullptr},
-    {Chk_Item12Store, nullptr},
-    {P8_CheckData, nullptr},
+constexpr std::array<FullCheck, 10> checks = {{
+    {P1_CheckData,    collectRows<page::first, page1CheckRows>, nullptr},
+    {ChkPage2,        collectPage2Refusals, nullptr},
+    {ReconcileItems,  collectReconciliation, nullptr},
+    // The ties of item 5 stand among those above, so that this walk has nothing of its own to list.
+    {ReconcileItem45, [](const CheckContext&, std::vector<Refusal>&) {}, [](const ReturnState& s) { return s.intInvestment != 0; }},
+    {Chk_Item5Store,  collectRows<page::item5, item5CheckRows>, nullptr},
+    {ChkIHQ,          collectIhqRefusals, needsIhqCheck},
+    {Chk_Item8Store,  collectRows<page::item9, item8CheckRows>, nullptr},
+    {Chk_Item11Store, collectRows<page::item11, item11CheckRows>, nullptr},
+    {Chk_Item12Store, collectRows<page::item12, item12CheckRows>, nullptr},
+    {P8_CheckData,    collectRows<page::notification, page8CheckRows>, nullptr},
 }};
 // clang-format on
 

@@ -1,10 +1,12 @@
 // The pages of the return, in their order, with the procedures that each supplies to the shell.
 #pragma once
 
+#include "program/checks.h"
 #include "program/program.h"
 
 #include <cstdint>
 #include <span>
+#include <vector>
 
 namespace lodge {
 
@@ -51,6 +53,9 @@ struct PageRow {
 /// A check of a complete store. They run in their order; the first that sets `intError` ends the store.
 struct FullCheck {
     PageProcedure run;
+    /// Adds everything that the check refuses to the list, in the order of its rows; shows and writes
+    /// nothing.
+    void (*collect)(const CheckContext& context, std::vector<Refusal>& refusals);
     /// Whether the return is one that the check is for, nullptr for every return.
     bool (*applies)(const ReturnState& state);
 };

@@ -4,6 +4,7 @@
 #include "pages/filer/isic_lookup.h"
 #include "pages/filer/notification_form.h"
 #include "pages/filer/page1.h"
+#include "pages/ihq/ihq_page.h"
 #include "pages/loss/item11_page.h"
 #include "pages/loss/item11_popup.h"
 #include "pages/schedules/item12_page.h"
@@ -12,8 +13,8 @@
 #include "pages/tax/green_sheet.h"
 #include "pages/tax/income_edit.h"
 #include "pages/tax/page2.h"
+#include "print/print_return.h"
 #include "shell/chooser.h"
-#include "shell/empty_page.h"
 #include "shell/notice_form.h"
 #include "shell/page_table.h"
 #include "shell/start_screen.h"
@@ -69,11 +70,7 @@ void Shell::addForms() {
     add<frmLodgePage6_11>(program_);
     add<frmLodgePage6_11Popup>(program_);
     add<frmLodgePage7_12>(program_);
-    for (const PageRow& row : pageTable()) {
-        if (!desk.knows(row.form)) {
-            desk.add(row.form, [this, &row] { return std::make_unique<EmptyPage>(program_, row); });
-        }
-    }
+    add<frmIHQ>(program_);
 }
 
 void Shell::start() {
@@ -145,7 +142,7 @@ void Shell::SwitchPage(bool on) {
     }
 }
 
-void Shell::PrintReturn() {}
+void Shell::PrintReturn() { lodge::PrintReturn(program_); }
 
 void Shell::EndReturn() { returns_.endReturn(); }
 

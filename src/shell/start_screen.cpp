@@ -50,6 +50,12 @@ long daysOfYear(const Day& first, const Day& last) {
 
 } // namespace
 
+void beginLoadedReturn(ReturnState& state) {
+    SilentNotifier silent;
+    ChkNid13(state.strFldPage1[45], state.FucChk.LastValidId, silent);
+    state.intNewReturn = 0;
+}
+
 frmLodgeStart::frmLodgeStart(Program& program) : Form(program.desk, formName), program_(program) {
     captionControls();
     wireControls();
@@ -298,11 +304,7 @@ void frmLodgeStart::CmdOK2_Click() {
         txtPath.setFocus();
         return;
     }
-    state.DataCtrl_P1.StatusChanged = true;
-    // The number of a stored return counts as checked, so that a complete store need not ask for it again.
-    SilentNotifier silent;
-    ChkNid13(state.strFldPage1[45], state.FucChk.LastValidId, silent);
-    state.intNewReturn = 0;
+    beginLoadedReturn(state);
     program_.shell().ShowPage1();
     state.blnNeedPage2 = true;
 }

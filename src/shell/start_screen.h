@@ -12,6 +12,10 @@
 
 namespace lodge {
 
+/// What a return that was just read from its file begins with: it counts as stored, and so does its number as
+/// checked, so that a complete store need not ask for it again.
+void beginLoadedReturn(ReturnState& state);
+
 class frmLodgeStart : public Form {
   public:
     static constexpr const char* formName = "frmLodgeStart";

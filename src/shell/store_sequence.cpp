@@ -1,6 +1,7 @@
 #include "shell/store_sequence.h"
 
 #include "file/store_dialog.h"
+#include "pages/filer/page1_fields.h"
 #include "pages/loss/item11_page.h"
 #include "pages/tax/page2_checks.h"
 #include "program/checks.h"
@@ -10,29 +11,55 @@
 
 #include <algorithm>
 #include <array>
-#include <string>
+#include <string_view>
 
 namespace lodge {
 
 namespace {
 
-constexpr std::array<CheckRow, 4> gates = {{
+constexpr std::array<CheckRow, 1> idGate = {{
     {"M132", "txtNid", [](const CheckContext& c) { return c.state.FucChk.LastValidId.empty(); }},
-    {"M006", "", [](const CheckContext& c) { return c.state.intStatusIndex == -1; }},
-    {"M085", "", [](const CheckContext& c) { return trimBlanks(c.state.FucChk.BusinessText).empty(); }},
-    {"M521", "", [](const CheckContext& c) { return c.state.intAuditStatus == 0; }},
+}};
+
+/// Refused from whatever page is on screen; the store moves no focus for them.
+constexpr std::array<CheckRow, 3> choiceGates = {{
+    {"M006", "chkStatus(0)", [](const CheckContext& c) { return c.state.intStatusIndex == -1; }},
+    {"M085", "cmdSISIC1(0)",
+        [](const CheckContext& c) { return trimBlanks(c.state.FucChk.BusinessText).empty(); }},
+    {"M521", "audit(0)", [](const CheckContext& c) { return c.state.intAuditStatus == 0; }},
 }};
 
 /// Status boxes of which one must stand beside box 11, the special-purpose development zone.
-constexpr std::array<int, 14> statusesOfZone = {0, 1, 2, 3, 4, 5, 6, 15, 8, 12, 10, 13, 17, 16};
-constexpr int zoneBox = 11;
+constexpr std::array<std::int16_t, 14> statusesOfZone = {0, 1, 2, 3, 4, 5, 6, 15, 8, 12, 10, 13, 17, 16};
 
-bool isTicked(const Form& page1, int box) {
-    const Control* status = page1.find("chkStatus(" + std::to_string(box) + ")");
-    return status != nullptr && status->reading() == "1";
+bool zoneStandsAlone(const CheckContext& context) {
+    const CompanyStatusRecord& record = context.state.DataCtrl_P1;
+    return record.ChkStatus11 == 1 && std::ranges::none_of(record.BusIndex, [](std::int16_t box) {
+        return std::ranges::find(statusesOfZone, box) != statusesOfZone.end();
+    });
 }
 
+constexpr std::array<CheckRow, 1> zoneGate = {{{"M144", "chkStatus(0)", zoneStandsAlone}}};
+
+constexpr std::string_view noForm;
+
 } // namespace
+
+void collectGateRefusals(const CheckContext& context, std::vector<Refusal>& refusals) {
+    const char* const page1 = findPage(page::first)->form;
+    collectRefusals(context, page1, idGate, refusals);
+    collectRefusals(context, page1, choiceGates, refusals);
+    collectTaxGateRefusals(context, refusals);
+}
+
+void collectFullRefusals(const CheckContext& context, std::vector<Refusal>& refusals) {
+    collectRefusals(context, findPage(page::first)->form, zoneGate, refusals);
+    for (const FullCheck& check : fullChecks()) {
+        if (check.applies == nullptr || check.applies(context.state)) {
+            check.collect(context, refusals);
+        }
+    }
+}
 
 void StoreSequence::cmdSave1_Click() {
     ReturnState& state = program_.state;
@@ -62,7 +89,8 @@ void StoreSequence::cmdSave2_Click() {
 
 bool StoreSequence::passesGates() {
     const PageRow* row = findPage(program_.state.intPageCur);
-    return runChecks(program_, row == nullptr ? "" : row->form, gates);
+    return runChecks(program_, row == nullptr ? noForm : row->form, idGate)
+           && runChecks(program_, noForm, choiceGates);
 }
 
 bool StoreSequence::goesThroughPage2() {
@@ -103,17 +131,8 @@ bool StoreSequence::passesTaxGates() {
 }
 
 bool StoreSequence::ChkZoneStatus() {
-    const Form* page1 = program_.desk.find(findPage(page::first)->form);
-    if (page1 == nullptr || !isTicked(*page1, zoneBox)) {
-        return true;
-    }
-    if (std::any_of(
-            statusesOfZone.begin(), statusesOfZone.end(), [&](int box) { return isTicked(*page1, box); })) {
-        return true;
-    }
-    program_.message("M144");
-    program_.state.intError = 1;
-    return false;
+    P1_KeepStatusBoxes(program_);
+    return runChecks(program_, noForm, zoneGate);
 }
 
 void StoreSequence::storeFlow() {

@@ -2,10 +2,19 @@
 // store dialog.
 #pragma once
 
+#include "program/checks.h"
 #include "program/program.h"
 #include "shell/navigation.h"
 
+#include <vector>
+
 namespace lodge {
+
+/// Adds everything that the gates before a complete store refuse while page 2 is on screen.
+void collectGateRefusals(const CheckContext& context, std::vector<Refusal>& refusals);
+/// Adds everything that a complete store refuses once page 1 is stored behind page 2: the zone, and the full
+/// checks in their order. What a page asks when it is left does not count: the light checks, the web site.
+void collectFullRefusals(const CheckContext& context, std::vector<Refusal>& refusals);
 
 class StoreSequence {
   public:

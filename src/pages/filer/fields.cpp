@@ -13,6 +13,9 @@ namespace lodge {
 
 namespace {
 
+/// What is more than digits and point in an amount without sign.
+constexpr std::string_view amountMarks = ",()-";
+
 template <typename T>
 T& as(Control& control) {
     return static_cast<T&>(control);
@@ -48,7 +51,7 @@ std::string readField(const Form& form, const Field& field) {
     case FieldKind::FlagIfTicked:
     case FieldKind::Date: return control.reading();
     case FieldKind::FilingNumber: return readFigure(control.reading()) == 0.0 ? "" : control.reading();
-    case FieldKind::Money: return removeAll(control.reading(), ",()-");
+    case FieldKind::Money: return removeAll(control.reading(), amountMarks);
     case FieldKind::Title: return titleEntry(as<ComboBox>(control));
     }
     return {};
@@ -69,7 +72,10 @@ void showField(const Form& form, const Field& field, std::string_view entry) {
         // A stored "01" is the first additional filing and shows as 1.
         as<TextBox>(control).setText(entry.empty() ? "" : plainNumberText(readFigure(entry)));
         break;
-    case FieldKind::Money: as<Label>(control).setCaption(formatMoneyText(entry)); break;
+    case FieldKind::Money:
+        // Page 2 hands over an overpaid amount with its sign, for which the label has its own place.
+        as<Label>(control).setCaption(formatMoneyText(removeAll(entry, amountMarks)));
+        break;
     case FieldKind::Title: as<ComboBox>(control).select(titleRow(entry)); break;
     case FieldKind::Date: as<MaskedBox>(control).setDigits(entry); break;
     }

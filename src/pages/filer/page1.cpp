@@ -147,7 +147,7 @@ std::vector<Control*> frmLodgePage1::statusBoxesOnPaper() {
     });
     // A caption begins with the number of its line, "(12) ...".
     const auto line = [](const Control* box) {
-        return readNumber(static_cast<const CheckBox*>(box)->caption().substr(1));
+        return readNumber(std::string_view(static_cast<const CheckBox*>(box)->caption()).substr(1));
     };
     std::ranges::stable_sort(boxes, {}, line);
     return boxes;

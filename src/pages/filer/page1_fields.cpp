@@ -67,12 +67,22 @@ void P1_DataToArray(Program& program) {
     for (std::size_t i = 0; i < periodFields; ++i) {
         state.strFldPage8[i] = state.strFldPage1[i + 1];
     }
-    CompanyStatusRecord& record = state.DataCtrl_P1;
+    P1_KeepStatusBoxes(program);
+    if (page->List2.count() == 0) {
+        program.message("M006");
+    }
+}
+
+void P1_KeepStatusBoxes(Program& program) {
+    const auto* page = program.desk.find<frmLodgePage1>();
+    if (page == nullptr) {
+        return;
+    }
+    CompanyStatusRecord& record = program.state.DataCtrl_P1;
     record.ChkStatus11 = page->chkStatus[developmentZoneBox].value() ? 1 : 0;
     record.ChkStatus14 = page->chkStatus[economicZoneBox].value() ? 1 : 0;
     if (page->List2.count() == 0) {
-        program.message("M006");
-        return;
+        return; // the boxes remembered before stay
     }
     record.BusIndex.clear();
     for (const std::string& box : page->List2.items()) {

@@ -72,6 +72,10 @@ void P1_ArrayToVar(Program& program);
 /// from the controls. Shows M006 when no status is ticked. Nothing while the form is not loaded.
 void P1_DataToArray(Program& program);
 
+/// Remembers which status boxes stand ticked, as every store of page 1 does. Nothing while the form is not
+/// loaded.
+void P1_KeepStatusBoxes(Program& program);
+
 /// Puts the person titles into a list, the empty one first, so that a list index is a row of the table.
 void fillTitles(ComboBox& list, const ReturnState& state);
 

@@ -34,6 +34,7 @@ frmLodgePage6_11::frmLodgePage6_11(Program& program) : PageForm(program.desk, fo
         button.setVisible(false);
         button.onClick = [this, row] { DelButton_Click(row); };
     });
+    txtSum.setTextKind(TextKind::Amount);
     txtSum.setLocked(true);
     txtSum.setBack(BackColour::Button);
     Command1.setCaption("เพิ่มรายการ");
@@ -46,10 +47,13 @@ void frmLodgePage6_11::wireCells() {
         box.onGotFocus = [&box] { showPlainDigits(box); };
         box.onKey = [this](const KeyPress& press) { keyPressed_ = keyPressed_ || counts(press.key); };
         box.onChange = [this, cell] {
-            if (keyPressed_ && cell != item11CarriedCell) showSum();
+            if (keyPressed_) showSum();
         };
         box.onLostFocus = [this, cell] { cellLeft(cell); };
     });
+    TextBox& carried = txtMoney1[item11CarriedCell];
+    lblMoney1_42.setVisible(false); // it stands on paper alone
+    carried.onChange = [this, &carried] { lblMoney1_42.setCaption(carried.text()); };
 }
 
 void frmLodgePage6_11::wireDates() {

@@ -5,6 +5,7 @@
 
 #include "controls/buttons.h"
 #include "controls/control_array.h"
+#include "controls/label.h"
 #include "controls/text_box.h"
 #include "pages/fields/amounts.h"
 #include "pages/loss/item11_table.h"
@@ -28,6 +29,7 @@ class frmLodgePage6_11 : public PageForm {
     ControlArray<MaskedBox> mskDateTo{*this, "mskDateTo", item11Rows};
     ControlArray<TextBox> txtMoney1{*this, "txtMoney1", item11CarriedCell + 1};
     ControlArray<CommandButton> DelButton{*this, "DelButton", item11Rows};
+    Label lblMoney1_42{*this, "lblMoney1_42"}; ///< What the carried loss shows.
     TextBox txtSum{*this, "txtSum"};
     CommandButton Command1{*this, "Command1"};
 

@@ -1,6 +1,7 @@
 #include "pages/schedules/item12_checks.h"
 
 #include "pages/fields/amounts.h"
+#include "pages/fields/small_company.h"
 #include "pages/schedules/item12_page.h"
 #include "values/money.h"
 
@@ -33,12 +34,14 @@ constexpr std::size_t assets = 9;
 constexpr std::size_t paidUpCapital = 18;
 constexpr std::size_t liabilitiesAndEquity = 22;
 
-/// The largest paid-up capital with which a company has the rates of a small one, baht.
-constexpr double largestSmallCapital = 5'000'000;
+Sides balance(const CheckContext& context) {
+    const FieldArray& fields = context.state.strFldPage7_12;
+    return {readFigure(fields[assets]), readFigure(fields[liabilitiesAndEquity])};
+}
 
 bool sidesDiffer(const CheckContext& context) {
-    const FieldArray& fields = context.state.strFldPage7_12;
-    return !sameAmount(readFigure(fields[liabilitiesAndEquity]), readFigure(fields[assets]));
+    const Sides sides = balance(context);
+    return !sameAmount(sides.here, sides.there);
 }
 
 bool capitalTooLargeForRate(const CheckContext& context) {
@@ -54,7 +57,7 @@ bool sideMissing(const CheckContext& context) {
 }
 
 constexpr std::array<CheckRow, 3> rows = {{
-    {"M084", "txtMoney2(0)", sidesDiffer},
+    {"M084", "txtMoney2(0)", sidesDiffer, balance},
     {"M100", "txtMoney4(1)", capitalTooLargeForRate},
     {"M105", "txtMoney2(0)", sideMissing},
 }};

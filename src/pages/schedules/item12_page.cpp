@@ -61,6 +61,8 @@ std::string sumOf(ControlArray<TextBox>& boxes) {
 frmLodgePage7_12::frmLodgePage7_12(Program& program) : PageForm(program.desk, formName), program_(program) {
     for (ControlArray<TextBox>* group : {&txtMoney2, &txtMoney3, &txtMoney4})
         group->each([this](TextBox& box, int /*index*/) { wire(box); });
+    chkProfit.setCaption("กำไร");
+    chkLose.setCaption("ขาดทุน");
     chkProfit.onClick = [this] { resultKindClicked(chkProfit, chkLose); };
     chkLose.onClick = [this] { resultKindClicked(chkLose, chkProfit); };
 }

@@ -10,8 +10,6 @@ namespace lodge {
 
 namespace {
 
-constexpr std::array allColumns = {Column::Exempt, Column::Taxable, Column::Total};
-
 std::string flag(bool ticked) { return ticked ? "1" : "0"; }
 
 struct TickField {

@@ -2,17 +2,14 @@
 // computed from what, and where each stands in strFldPage3_3.
 #pragma once
 
+#include "pages/schedules/column.h"
+
 #include <array>
 #include <cstddef>
 #include <span>
 #include <string_view>
 
 namespace lodge {
-
-/// The three columns: business exempt from income tax, taxable business, both together.
-enum class Column { Exempt, Taxable, Total };
-
-inline constexpr std::array inputColumns = {Column::Exempt, Column::Taxable};
 
 struct Item3Line {
     int number; ///< As printed on the form, 1 to 21.

@@ -2,7 +2,7 @@
 // paper; the page, its sums, its checks and its moves between array and controls all follow from the table.
 #pragma once
 
-#include "pages/schedules/item3_lines.h"
+#include "pages/schedules/column.h"
 #include "state/item8_sum.h"
 #include "state/return_state.h"
 
@@ -14,8 +14,6 @@
 #include <string_view>
 
 namespace lodge {
-
-inline constexpr std::array allColumns = {Column::Exempt, Column::Taxable, Column::Total};
 
 /// Cells of one column that enter a sum, both ends included; a sign of -1 takes them off.
 struct Term {

@@ -25,10 +25,14 @@ long long inTenThousandths(double amount) {
     return std::llround(amount * steps);
 }
 
+/// What item 9 line 5 adds back, and lines 15 to 26 of item 8.
+Sides addedBack(const CheckContext& context) {
+    return {readFigure(context.state.strFldPage5_9[20]), context.state.FucChk.TmpSum8_15to25};
+}
+
 bool addedBackDiffers(const CheckContext& context) {
-    const ReturnState& state = context.state;
-    return inTenThousandths(readFigure(state.strFldPage5_9[20]))
-           != inTenThousandths(state.FucChk.TmpSum8_15to25);
+    const Sides sides = addedBack(context);
+    return inTenThousandths(sides.here) != inTenThousandths(sides.there);
 }
 
 // clang-format off
@@ -39,7 +43,7 @@ constexpr std::array<CheckRow, 3> item5Rows = {{
 }};
 
 constexpr std::array<CheckRow, 1> item8Rows = {{
-    {"M122", "txtMoney91(5)", addedBackDiffers},
+    {"M122", "txtMoney91(5)", addedBackDiffers, addedBack},
 }};
 // clang-format on
 

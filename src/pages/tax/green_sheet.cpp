@@ -60,12 +60,15 @@ void frmLodgePage1_2::captionControls() {
         const auto at = static_cast<std::size_t>(row);
         lblRow[row].setCaption(std::string(rowCaptions[at]));
         txtSum[row].setTag(std::string(rowTags[at]));
+        txtSum[row].setTextKind(TextKind::Amount);
         txtSum[row].setLocked(true);
         txtIncome[row].setTextKind(TextKind::Amount);
     }
     txtMoney71.each([](TextBox& box, int) { box.setTextKind(TextKind::Amount); });
-    txtIncomeSum.setLocked(true);
-    txtSumTax.setLocked(true);
+    for (TextBox* sum : {&txtIncomeSum, &txtSumTax}) {
+        sum->setTextKind(TextKind::Amount);
+        sum->setLocked(true);
+    }
     Cmd_Ok.setCaption("ตกลง");
 }
 

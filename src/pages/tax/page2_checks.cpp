@@ -1,6 +1,7 @@
 #include "pages/tax/page2_checks.h"
 
 #include "pages/fields/amounts.h"
+#include "pages/fields/small_company.h"
 #include "pages/tax/page2.h"
 #include "pages/tax/rate_table.h"
 #include "values/money.h"
@@ -57,6 +58,19 @@ bool ticksDiffer(Context context) {
     return !declaresReceipts(context) && number(item3(context)[itemTick]) != number(page2(context)[pageTick]);
 }
 
+/// Line 1 as receipts, and the receipts that item 3 states.
+Sides receipts(Context context) {
+    return {number(page2(context)[32]),
+        number(item3(context)[40]) + number(item3(context)[43]) + number(item3(context)[49])};
+}
+
+/// Line 1 as profit or loss, and line 22 of item 3; the sign is in the ticks.
+Sides result(Context context) {
+    return {std::abs(number(page2(context)[32])), std::abs(number(item3(context)[60]))};
+}
+
+bool differ(const Sides& sides) { return !sameAmount(sides.here, sides.there); }
+
 bool hasPayStatus(Context context) { return !isNil(context.state.DataCtrl_P2.PayStatus); }
 
 template <std::size_t... options>
@@ -94,21 +108,24 @@ constexpr std::array<CheckRow, 19> rowsBeforeRate = {{
 
 // Here the rate code goes into its entry.
 
-constexpr std::array<CheckRow, 4> rowsBeforeSideTick = {{
+constexpr std::array<CheckRow, 2> smallCompanyRows = {{
     {"M156", "ChkBox_NewAtt(1)", [](Context c) {
         return usesSmallCompanyRow(c)
                && MoneyTextToDouble(item3(c)[20]) + MoneyTextToDouble(item3(c)[0]) > smallSales; }},
     {"M155", "ChkBox_NewAtt(1)", [](Context c) {
-        return usesSmallCompanyRow(c) && MoneyTextToDouble(c.state.strFldPage7_12[18]) > smallCapital; }},
-    {"M529", "", [](Context c) {
+        return usesSmallCompanyRow(c) && MoneyTextToDouble(c.state.strFldPage7_12[18]) > largestSmallCapital; }},
+}};
+
+constexpr std::array<CheckRow, 2> sideBoxRows = {{
+    {"M529", "txtBOI", [](Context c) {
         return hasSideBox(c) && (c.state.BoxAmount.empty() || item3(c)[60].empty()); }},
-    {"M529", "", [](Context c) { return hasSideBox(c) && sideBoxDiffers(c); }},
+    {"M529", "txtBOI", [](Context c) { return hasSideBox(c) && sideBoxDiffers(c); }},
 }};
 
 /// The side box of item 3 states an amount that is neither profit nor loss. It refuses the store, and yet the
 /// rows behind it run and may add their message: the filer learns both at once.
 constexpr std::array<CheckRow, 1> sideTickRow = {{
-    {"M530", "", [](Context c) {
+    {"M530", "chkProfitX", [](Context c) {
         return hasSideBox(c) && c.state.BoxAmount != "0.00" && !c.state.BoxProfit && !c.state.BoxLoss; }},
 }};
 
@@ -118,12 +135,9 @@ constexpr std::array<CheckRow, 7> rowsOfLine1 = {{
     {"M039", "chkTaxPay(1)", ticksDiffer<66, 23>},
     {"M041", "txtMoney(0)",  [](Context c) { return page2(c)[32].empty(); }},
     {"M087", "txtMoney(0)",  [](Context c) {
-        return !isNil(page2(c)[24])
-               && !sameAmount(number(item3(c)[40]) + number(item3(c)[43]) + number(item3(c)[49]),
-                              number(page2(c)[32])); }},
+        return !isNil(page2(c)[24]) && differ(receipts(c)); }, receipts},
     {"M042", "txtMoney(0)",  [](Context c) {
-        return (number(page2(c)[22]) == 1 || number(page2(c)[23]) == 1)
-               && !sameAmount(std::abs(number(page2(c)[32])), std::abs(number(item3(c)[60]))); }},
+        return (number(page2(c)[22]) == 1 || number(page2(c)[23]) == 1) && differ(result(c)); }, result},
     {"M088", "txtMoney(6)",  [](Context c) { return !isNil(page2(c)[4]) && page2(c)[38].empty(); }},
 }};
 
@@ -135,7 +149,7 @@ bool usesSmallCompanyCode(Context context) {
 
 constexpr std::array<CheckRow, 2> capitalRows = {{
     {"M100", "ChkBox_NewRate(3)", [](Context c) {
-        return usesSmallCompanyCode(c) && readFigure(c.state.strFldPage7_12[18]) > smallCapital; }},
+        return usesSmallCompanyCode(c) && readFigure(c.state.strFldPage7_12[18]) > largestSmallCapital; }},
     {"M089", "ChkBox_NewRate(3)", [](Context c) {
         return usesSmallCompanyCode(c) && readFigure(c.state.strFldPage7_12[18]) == 0; }},
 }};
@@ -158,6 +172,8 @@ constexpr std::array<CheckRow, 5> worksheetRules = {{
 /// Where the list of what stands in the way leads to. The store itself moves no focus: only the checks of
 /// single fields do.
 constexpr std::string_view form = frmLodgePage2::formName;
+/// The side box stands on the page of item 3.
+constexpr std::string_view formOfSideBox = "frmLodgePage3_3";
 constexpr std::string_view noForm;
 
 } // namespace
@@ -166,7 +182,8 @@ void ChkPage2(Program& program) {
     program.state.intError = 0;
     if (!runChecks(program, noForm, rowsBeforeRate)) return;
     program.state.strFldPage2[44] = program.state.DataCtrl_P2.nRateCode;
-    if (!runChecks(program, noForm, rowsBeforeSideTick)) return;
+    if (!runChecks(program, noForm, smallCompanyRows)) return;
+    if (!runChecks(program, noForm, sideBoxRows)) return;
     runChecks(program, noForm, sideTickRow);
     runChecks(program, noForm, rowsOfLine1);
 }
@@ -179,12 +196,16 @@ void ChkWorksheetRows(Program& program) { runChecks(program, noForm, worksheetRu
 // special-purpose zone fill the worksheet like everyone else.
 bool IsGreenCase(const ReturnState& /*state*/) { return false; }
 
-void collectPage2Refusals(const CheckContext& context, std::vector<Refusal>& refusals) {
+void collectTaxGateRefusals(const CheckContext& context, std::vector<Refusal>& refusals) {
     if (!IsGreenCase(context.state)) collectRefusals(context, form, worksheetRules, refusals);
     collectRefusals(context, form, capitalRows, refusals);
+}
+
+void collectPage2Refusals(const CheckContext& context, std::vector<Refusal>& refusals) {
     collectRefusals(context, form, rowsBeforeRate, refusals);
-    collectRefusals(context, form, rowsBeforeSideTick, refusals);
-    collectRefusals(context, form, sideTickRow, refusals);
+    collectRefusals(context, form, smallCompanyRows, refusals);
+    collectRefusals(context, formOfSideBox, sideBoxRows, refusals);
+    collectRefusals(context, formOfSideBox, sideTickRow, refusals);
     collectRefusals(context, form, rowsOfLine1, refusals);
 }
 

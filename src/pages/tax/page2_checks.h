@@ -24,7 +24,9 @@ void ChkWorksheetRows(Program& program);
 /// Whether the green sheet excuses the worksheet's rows. It never does.
 [[nodiscard]] bool IsGreenCase(const ReturnState& state);
 
-/// Everything of the three checks that refuses.
+/// Everything that ChkWorksheetRows, while it is due, and ChkRate24Capital refuse.
+void collectTaxGateRefusals(const CheckContext& context, std::vector<Refusal>& refusals);
+/// Everything that ChkPage2 refuses. The rate code is to stand in its entry already.
 void collectPage2Refusals(const CheckContext& context, std::vector<Refusal>& refusals);
 
 /// Puts the tax of an earlier form back into the balance of line 4.

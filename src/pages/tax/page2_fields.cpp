@@ -46,6 +46,10 @@ constexpr std::array<Page2Field, 43> fields = {{
 /// Statuses whose nil result of item 3 is no loss.
 constexpr std::array<std::string_view, 6> statusesWithoutNilLoss = {"14", "9", "16", "17", "18", "19"};
 
+// The cases of line 2 as a return carries them; the general one is carried by none.
+constexpr std::int16_t reducedCase = 2;
+constexpr std::int16_t receiptsCase = 3;
+
 Control& controlOf(const Form& page, const Page2Field& field) { return *page.find(field.control); }
 
 std::string maskOrNothing(const MaskedBox& box) { return box.digits().empty() ? std::string() : box.text(); }
@@ -72,6 +76,16 @@ void copyRate(const TaxRecord& from, TaxRecord& to) {
     to.RateTag = from.RateTag;
     to.RateIndex1 = from.RateIndex1;
     to.RateCodePrint = from.RateCodePrint;
+}
+
+/// Whether the filled page has the tick of the stored case of line 2. A business with a row of the general
+/// rate beside one of a reduced rate has both cases ticked: the one that it chose last stands, not the one
+/// that the filling has ticked last.
+bool bearsOutCase(
+    const frmLodgePage2& page, const FieldArray& stored, const std::optional<std::int16_t>& taxCase) {
+    if (!taxCase) return stored[generalCaseEntry] == "1" && page.chkTaxCal[0].value();
+    if (*taxCase == reducedCase) return page.chkTaxCal[1].value();
+    return *taxCase == receiptsCase && page.chkTaxCal[2].value();
 }
 
 /// While an array is on its way into the page, a tick is no person's.
@@ -105,13 +119,15 @@ void frmLodgePage2::P2_ArrayToControls() {
     // choices that the ticks themselves are.
     TaxRecord kept = record;
     kept.PayStatus = tax().PayStatus;
-    kept.Select_2_1 = tax().Select_2_1;
+    if (!bearsOutCase(*this, stored, record.Select_2_1)) kept.Select_2_1 = tax().Select_2_1;
     kept.RateCaseText = tax().RateCaseText;
     const bool rateFromPage = chosenRow() >= 0 || tickedRateBoxes() > 0;
     if (rateFromPage) copyRate(tax(), kept);
     tax() = std::move(kept);
     if (!rateFromPage) state().modGreen.RateCodeShown = rateShown;
     state().strFldPage2 = stored;
+    // Page 1 has put the caption of the status's rate there; the rate box's own code replaces it.
+    if (rateFromPage) state().strFldPage2[rateCodeEntry] = tax().nRateCode;
     state().strFldPage1_2 = sheet;
 
     showAmounts(record);

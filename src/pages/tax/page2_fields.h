@@ -24,6 +24,7 @@ struct Page2Field {
 /// number and have none.
 [[nodiscard]] std::span<const Page2Field> page2Fields();
 
+inline constexpr std::size_t generalCaseEntry = 25;
 inline constexpr std::size_t taxEntry = 33;
 inline constexpr std::size_t rateCodeEntry = 44;
 inline constexpr std::size_t rateNumberEntry = 45;

@@ -28,8 +28,7 @@ inline constexpr double smallMiddleProfit = 3'000'000;
 inline constexpr double smallMiddleTax = 405'000;
 /// Tax on gross receipts, percent.
 inline constexpr int receiptsPercent = 5;
-/// A company above either of these is no small company: paid-up capital, and sales in the period.
-inline constexpr double smallCapital = 5'000'000;
+/// The largest sales in the period with which a company is a small one (its capital: small_company.h).
 inline constexpr double smallSales = 30'000'000;
 
 // --- The worksheet ---

@@ -1,11 +1,10 @@
 // The commands `lines` and `show` as a script calls them.
-#include "cli/cli.h"
+#include "cli_call.h"
 #include "state/field_names.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
-#include <cstdio>
 #include <fstream>
 #include <sstream>
 #include <string>
@@ -14,45 +13,12 @@
 namespace lodge {
 namespace {
 
-struct Result {
-    int status;
-    std::string out;
-    std::string err;
-};
-
-Result run(std::vector<std::string> arguments) {
-    arguments.insert(arguments.begin(), "lodge77-cli");
-    std::ostringstream out;
-    std::ostringstream err;
-    const int status = runCli(arguments, out, err);
-    return {status, out.str(), err.str()};
-}
-
-std::string storedReturn(const std::string& story, const std::string& storeType = "N") {
-    return LODGE_TEST_DATA "/returns/" + story + "/01055360003132561100" + storeType + ".txt";
-}
-
 std::string linesOf(const std::string& story) {
     std::ifstream file(LODGE_TEST_DATA "/returns/" + story + "/lines.txt");
     std::ostringstream text;
     text << file.rdbuf();
     return text.str();
 }
-
-// A file with the given content, gone with the test.
-class TestFile {
-  public:
-    explicit TestFile(const std::string& content) {
-        const auto* const test = testing::UnitTest::GetInstance()->current_test_info();
-        path = testing::TempDir() + "lodge-" + test->test_suite_name() + "-" + test->name() + ".txt";
-        std::ofstream(path) << content;
-    }
-    TestFile(const TestFile&) = delete;
-    TestFile& operator=(const TestFile&) = delete;
-    ~TestFile() { std::remove(path.c_str()); }
-
-    std::string path;
-};
 
 // --- The program ---
 
@@ -68,7 +34,7 @@ TEST(CommandLine, WithoutACommandOrWithAnUnknownOneIsAtFault) {
 TEST(CommandLine, HelpGoesThroughAndNamesTheCommands) {
     const Result help = run({"--help"});
     EXPECT_EQ(help.status, exitDone);
-    for (const char* command : {"lines", "show"}) {
+    for (const char* command : {"check", "lines", "show"}) {
         EXPECT_NE(help.out.find(command), std::string::npos);
         EXPECT_EQ(run({command, "--help"}).status, exitDone);
         EXPECT_NE(run({command, "--help"}).out.find("exit status is 2"), std::string::npos);

@@ -111,7 +111,9 @@ TEST_F(Controls, AControlIsFoundByItsNameAndIndex) {
     EXPECT_EQ(form->find("txtName"), &form->txtName);
     EXPECT_EQ(form->find("chkStatus(2)"), &form->chkStatus[2]);
     EXPECT_EQ(form->find("chkStatus(3)"), nullptr);
-    EXPECT_EQ(form->find("chkStatus"), nullptr);
+    for (const char* other : {"chkStatus", "chkStatus(", "chkStatus()", "chkStatus(2", "chkStatus(02)",
+             "chkStatus(+2)", "chkStatus(2)x", "chkStatus(-1)", "txtName(0)", "txtName(-1)", "(2)", ""})
+        EXPECT_EQ(form->find(other), nullptr) << other;
 }
 
 TEST_F(Controls, StandInTheOrderOfThePaperWhenTheyAreBroughtIntoIt) {

@@ -283,7 +283,7 @@ TEST(CGUnzipFiles, CatchesAnArchiveThatWasCutShort) {
 
 // An archive with one member of the given name.
 std::string archiveWith(const WorkFolder& folder, const std::string& member) {
-    const std::string path = folder.path("made.zip");
+    std::string path = folder.path("made.zip");
     zip_t* const archive = zip_open(path.c_str(), ZIP_CREATE | ZIP_TRUNCATE, nullptr);
     zip_source_t* const source = zip_source_buffer(archive, "x", 1, 0);
     EXPECT_GE(zip_file_add(archive, member.c_str(), source, ZIP_FL_ENC_UTF_8), 0);

@@ -60,9 +60,10 @@ void addNames(Collection& all) {
         "c:return.txt", "\\\\server\\share\\x", "", "return.txt\0.exe"s, "return\n.txt", "\x1b[2J.txt"};
     for (const std::string& name : leadingOut)
         all.spoilMember("name " + name, Fault::BadName, [&](PlannedMember& member) { member.name = name; });
-    for (const char* name : {"return.txt/", "return.txt\\"})
+    for (const char* name : {"return.txt/", "return.txt\\"}) {
         all.spoilMember(std::string("folder ") + name, Fault::NotAFile,
             [&](PlannedMember& member) { member.name = name; });
+    }
 }
 
 void addKinds(Collection& all) {

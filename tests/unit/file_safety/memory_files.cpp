@@ -56,10 +56,11 @@ MemoryFiles::Names MemoryFiles::visibleNames() const {
     Names names = namesOnDisk;
     for (const NameChange& step : unsyncedNames) {
         for (const auto& [name, file] : step) {
-            if (file)
+            if (file) {
                 names[name] = *file;
-            else
+            } else {
                 names.erase(name);
+            }
         }
     }
     return names;
@@ -80,10 +81,11 @@ std::set<Disk> MemoryFiles::afterPowerLoss() const {
         for (std::size_t number = 0; number < unsyncedNames.size(); ++number) {
             if ((chosen >> number & 1U) == 0) continue;
             for (const auto& [name, file] : unsyncedNames[number]) {
-                if (file)
+                if (file) {
                     names[name] = *file;
-                else
+                } else {
                     names.erase(name);
+                }
             }
         }
         // With every content that each of the named files may have.

@@ -47,6 +47,9 @@ TEST(IsicList, TheLastLineNeedsNoLineBreakAndAShortLineHasNoName) {
 }
 
 class IsicArchiveTest : public FilerTest {
+  public:
+    ~IsicArchiveTest() override { std::filesystem::remove_all(host.folder); }
+
   protected:
     IsicArchiveTest() {
         host.folder =
@@ -56,7 +59,6 @@ class IsicArchiveTest : public FilerTest {
         std::filesystem::create_directories(host.folder);
         state.strIsicCode = {"left over"};
     }
-    ~IsicArchiveTest() override { std::filesystem::remove_all(host.folder); }
 
     void writeArchive(const std::vector<Member>& members) {
         const Packed packed = packArchive(members, std::chrono::local_days{std::chrono::year{2018} / 1 / 1});

@@ -115,6 +115,17 @@ FieldArray storedPage1() {
     return stored;
 }
 
+TEST_F(Page1Test, AnOverpaidAmountStandsWithoutItsSign) {
+    state.strFldPage1 = storedPage1();
+    state.strFldPage1[30] = "-25000.00";
+    state.intNewReturn = 0;
+    frmLodgePage1& page = showPage1();
+    EXPECT_EQ(page.lblMoneyOver.caption(), "25,000.00");
+
+    P1_DataToArray(program);
+    EXPECT_EQ(state.strFldPage1[30], "25000.00");
+}
+
 TEST_F(Page1Test, WhatTheControlsShowIsStoredAsItWas) {
     state.strFldPage1 = storedPage1();
     state.DataCtrl_P1.BusIndex = {3, 11};

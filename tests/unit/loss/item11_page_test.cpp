@@ -160,6 +160,15 @@ TEST_F(Item11Page, TakesACarriedLossThatDiffersFromTheSum) {
     EXPECT_TRUE(leaves());
 }
 
+TEST_F(Item11Page, GivesThePaperTheCarriedLossAsItIsShown) {
+    addPeriod();
+    type(page, "txtMoney1(42)", "1234.5");
+    EXPECT_EQ(page.lblMoney1_42.caption(), "1,234.50");
+    EXPECT_FALSE(page.lblMoney1_42.visible());
+    user.click(page.DelButton[12]);
+    EXPECT_EQ(page.lblMoney1_42.caption(), "");
+}
+
 TEST_F(Item11Page, AsksForTheCarriedLossUntilItIsTyped) {
     addPeriod();
     EXPECT_FALSE(leaves());

@@ -73,6 +73,11 @@ TEST_F(Item12, EmptiesACellOfRefusedTextAndKeepsTheFocus) {
 
 // --- Profit or loss ---
 
+TEST_F(Item12, NamesBothKindsOfResult) {
+    EXPECT_EQ(page.chkProfit.caption(), "กำไร");
+    EXPECT_EQ(page.chkLose.caption(), "ขาดทุน");
+}
+
 TEST_F(Item12, OpensTheResultOnlyForAProfitOrALoss) {
     EXPECT_FALSE(result().enabled());
     EXPECT_EQ(result().back(), BackColour::Button);

@@ -146,7 +146,6 @@ TEST(Boxes, DialogsWithNothingQueuedAreFaults) {
              Case{[](Stage& stage) { stage.program.chooseFile({.title = "เปิด", .filter = ""}); },
                  "a file dialog \"เปิด\""},
              Case{[](Stage& stage) { stage.program.chooseFolder("/"); }, "a folder dialog"},
-             Case{[](Stage& stage) { stage.host.choosePages(); }, "a print dialog"},
          }) {
         Stage stage;
         stage.form().cmdGo.onClick = [&] { dialog.open(stage); };
@@ -180,6 +179,16 @@ TEST(Boxes, APrintDialogTakesTheQueuedRange) {
     EXPECT_EQ(ranges[0]->from, 3);
     EXPECT_EQ(ranges[0]->to, 9);
     EXPECT_FALSE(ranges[1].has_value());
+}
+
+TEST(Boxes, APrintDialogWithoutARangeReadsZeroToZero) {
+    Stage stage;
+    std::optional<PageRange> range;
+    stage.form().cmdGo.onClick = [&] { range = stage.host.choosePages(); };
+    EXPECT_EQ(stage.play("click frmStage.cmdGo\n"), SessionEnd::AllWentThrough);
+    ASSERT_TRUE(range.has_value());
+    EXPECT_EQ(range->from, 0);
+    EXPECT_EQ(range->to, 0);
 }
 
 TEST(Boxes, ARangeIsTwoNumbersOrCancel) {

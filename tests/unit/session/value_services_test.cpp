@@ -48,6 +48,10 @@ TEST(ValueServices, GiveTheirResultsAsTexts) {
     EXPECT_EQ(called("EnCodeLine", {"|"}), "01240124");
     EXPECT_EQ(called("DeCodeLine", {"01610161"}), "ก");
     EXPECT_EQ(called("DeCodeLine", {"01610162"}), "-1");
+    EXPECT_EQ(called("FormatBox", {"-1234.5"}), "(1,234.50)");
+    EXPECT_EQ(called("FormatBox", {""}), "");
+    EXPECT_EQ(called("ChkBoxNum", {""}), "True");
+    EXPECT_EQ(called("ChkBoxNum", {"12-3"}), "False");
 }
 
 TEST(ValueServices, TheirMessagesAreBoxesLikeAnyOther) {

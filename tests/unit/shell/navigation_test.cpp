@@ -117,6 +117,34 @@ TEST_F(Shelled, ANewReturnPutsTheOldOneAwayAndComesBackToTheStartScreen) {
     EXPECT_TRUE(frame().cmdExit.enabled());
 }
 
+TEST_F(Shelled, TheAttachmentIsOpenToAHeadquartersAlone) {
+    const Form& chooser = program.desk.show("frmLodgeChoose");
+    EXPECT_FALSE(chooser.find("cmdItemIHQ")->enabled());
+    EXPECT_TRUE(chooser.find("cmdItem12")->enabled());
+    program.state.blnIHQPage = true;
+    program.desk.show("frmLodgeChoose");
+    EXPECT_TRUE(chooser.find("cmdItemIHQ")->enabled());
+}
+
+TEST_F(Shelled, ClearingTheAttachmentEmptiesItsRecordButThePeriod) {
+    ReturnState& state = program.state;
+    state.blnIHQPage = true;
+    state.modIHQ.BoxASum = "5.00";
+    state.modIHQ.LicenceStart = "01/01/2559";
+    program.desk.show("frmLodgeChoose");
+    user.click(*program.desk.find("frmLodgeChoose")->find("cmdItemIHQ"));
+    EXPECT_EQ(state.intPageCur, 100);
+    EXPECT_EQ(program.desk.top()->find("txtSumA")->reading(), "5.00");
+    host.answers = {Answer::Yes};
+    user.click(frame().CmdClear2);
+    EXPECT_EQ(program.desk.top()->name(), "frmIHQ");
+    EXPECT_EQ(program.desk.top()->find("txtSumA")->reading(), "");
+    EXPECT_EQ(state.intPageCur, 100);
+    EXPECT_EQ(state.modIHQ.BoxASum + state.modIHQ.LicenceStart, "");
+    EXPECT_EQ(state.modIHQ.PeriodStart, "01012561");
+    EXPECT_EQ(state.modIHQ.PeriodEnd, "31122561");
+}
+
 TEST_F(Shelled, TheMakersToolsComeUpWithThreeKeysHeldAlone) {
     const MouseGesture allKeys{.shift = true, .ctrl = true, .alt = true};
     user.mouse(frame().Picture1, {.shift = true, .ctrl = true});

@@ -87,6 +87,43 @@ TEST_F(Page2, LeavingAndComingBackChangesNothing) {
     EXPECT_EQ(shown(), std::vector<std::string>{});
 }
 
+// The general rate and the zone's beside it tick both cases of line 2; the file can carry one.
+TEST_F(Page2, TheCaseOfLine2StaysTheOneChosenLast) {
+    zone();
+    show();
+    click("chkTaxPay(0)");
+    click("ChkBox_NewAtt(0)");
+    click("ChkBox_NewAtt(8)");
+    type("txtIncome(0)", "400000");
+    type("txtIncome(1)", "1800000");
+    ASSERT_TRUE(leave());
+    EXPECT_EQ(record.Select_2_1, 2);
+    show();
+    EXPECT_EQ(record.Select_2_1, 2);
+    click("ChkBox_NewAtt(0)");
+    click("ChkBox_NewAtt(0)");
+    type("txtIncome(0)", "400000");
+    ASSERT_TRUE(leave());
+    EXPECT_EQ(record.Select_2_1, std::nullopt);
+    show();
+    wait(1000);
+    EXPECT_EQ(reading("chkTaxCal(1)"), "1");
+    EXPECT_EQ(record.Select_2_1, std::nullopt);
+}
+
+// A complete store right after this looks into the entry: with page 1's "(2.4)" it would hold a regional
+// headquarters against the capital of a small company.
+TEST_F(Page2, TheCodeOfATickedRowStandsWherePage1HasPutItsCaption) {
+    status("10", {"(2.4)"});
+    show();
+    click("chkTaxPay(0)");
+    type("txtIncome(0)", "2200000");
+    ASSERT_TRUE(leave());
+    state.strFldPage2[44] = "(2.4)";
+    show();
+    EXPECT_EQ(state.strFldPage2[44], "1.4");
+}
+
 TEST_F(Page2, AnUnstoredPageGivesTheSignsBack) {
     state.strFldPage2[41] = "-15.00";
     show();
