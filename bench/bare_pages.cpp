@@ -32,10 +32,8 @@ void drawRule(cairo_t* context, const BareRule& rule) {
     cairo_set_dash(context, dots, rule.isDotted ? 2 : 0, 0);
     cairo_set_source_rgb(context, 0.17, 0.24, 0.32);
     cairo_set_line_width(context, rule.stroke);
-    if (rule.stroke > 0)
-        cairo_stroke(context);
-    else
-        cairo_new_path(context);
+    if (rule.stroke == 0) return cairo_new_path(context);
+    cairo_stroke(context);
 }
 
 void drawText(cairo_t* context, PangoLayout* layout, PangoFontDescription* font, const BareText& text) {
@@ -84,12 +82,14 @@ std::string drawBare(const std::vector<BarePage>& pages) {
 void writePages(std::ostream& out, const std::vector<BarePage>& pages) {
     for (const BarePage& page : pages) {
         out << "page\n";
-        for (const BareRule& rule : page.rules)
+        for (const BareRule& rule : page.rules) {
             out << "rule " << rule.x << ' ' << rule.y << ' ' << rule.width << ' ' << rule.height << ' '
                 << rule.stroke << ' ' << rule.isBox << ' ' << rule.isShaded << ' ' << rule.isDotted << '\n';
-        for (const BareText& text : page.texts)
+        }
+        for (const BareText& text : page.texts) {
             out << "text " << text.x << ' ' << text.baseline << ' ' << text.size << ' ' << text.align << ' '
                 << text.isBold << ' ' << text.text << '\n';
+        }
     }
 }
 

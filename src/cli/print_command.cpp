@@ -10,6 +10,7 @@
 #include "program/machine_clock.h"
 #include "program/program.h"
 #include "program/program_folder.h"
+#include "shell/shell.h"
 #include "shell/silent_host.h"
 #include "shell/start_screen.h"
 #include "state/item8_sum.h"
@@ -156,6 +157,7 @@ class ReturnPrinter {
         load(file, inner.bytes);
         press_.beginDocument();
         PrintReturn(program_);
+        shell_.UnloadPages();
         if (const std::string failure = host_.takeFailure(); !failure.empty())
             reportFault(context_, file, failure);
         // Pages that were done stay done, also when a later one failed.
@@ -186,11 +188,16 @@ class ReturnPrinter {
         return isNew;
     }
 
+    /// As on the desktop, a loaded return comes up with its page 1, which ticks the company status that the
+    /// file holds as a number, and printing stores that page first.
     void load(const std::string& file, std::string_view text) {
         program_.state = empty_;
         loadReturnText(text, program_.state, machineYear(host_));
         beginLoadedReturn(program_.state);
         program_.state.strFileName = innerPathOf(file);
+        shell_.ShowPage1();
+        shell_.StorePageOnScreen();
+        host_.takeFailure(); // what page 1 has to say is no failure of the print
     }
 
     void store(const std::string& file, const fs::path& path, const Attachment& data) {
@@ -212,6 +219,7 @@ class ReturnPrinter {
     PrintHost& host_;
     const Target& target_;
     Program program_{host_};
+    Shell shell_{program_};
     ReturnState empty_;
     std::map<fs::path, std::string> claimed_;
 };

@@ -3,6 +3,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <filesystem>
@@ -49,11 +50,11 @@ std::string contentOf(const fs::path& file) {
 
 class PrintCommand : public ::testing::Test {
   protected:
-    PrintCommand() {
+    void SetUp() override {
         fs::remove_all(folder);
         fs::create_directories(folder);
     }
-    ~PrintCommand() override { fs::remove_all(folder); }
+    void TearDown() override { fs::remove_all(folder); }
 
     [[nodiscard]] static Ended print(const std::string& arguments) {
         return ended(std::string(LODGE_CLI) + " print " + arguments);
@@ -63,6 +64,20 @@ class PrintCommand : public ::testing::Test {
     }
     [[nodiscard]] static int pagesOf(const fs::path& pdf) {
         return std::stoi(ended("pdfinfo " + pdf.string() + " | sed -n 's/^Pages: *//p'").said);
+    }
+
+    /// Whether anything is drawn inside the tick box of page 1 whose corner stands at these tenths of a
+    /// millimetre; its frame is left out.
+    [[nodiscard]] static bool isTicked(const fs::path& pdf, int left, int top) {
+        constexpr int frame = 6;
+        constexpr int inner = 20;
+        const std::string image =
+            ended("pdftoppm -gray -r 254 -l 1 -x " + std::to_string(left + frame) + " -y "
+                  + std::to_string(top + frame) + " -W " + std::to_string(inner) + " -H "
+                  + std::to_string(inner) + " " + pdf.string())
+                .said;
+        return std::any_of(image.end() - inner * inner, image.end(),
+            [](char grey) { return static_cast<unsigned char>(grey) < 128; });
     }
 
     const fs::path folder = fs::path(testing::TempDir()) / ("lodge77-print-" + std::to_string(getpid()));
@@ -96,6 +111,13 @@ TEST_F(PrintCommand, ThePdfCarriesWhatShowPrintsAsJson) {
 TEST_F(PrintCommand, TheFormTellsTheFileThatItWasPrintedFrom) {
     (void)print(ordinary + " -o " + pdf.string() + " --pages 1");
     EXPECT_THAT(textOf(pdf), HasSubstr("01055360003132561100C.txt"));
+}
+
+// The file holds the company status as a number; page 1 of the return turns it into a tick.
+TEST_F(PrintCommand, TheCompanyStatusIsTickedOnPage1) {
+    (void)print(ordinary + " -o " + pdf.string() + " --pages 1");
+    EXPECT_TRUE(isTicked(pdf, 150, 691)) << "(1), a company under Thai law";
+    EXPECT_FALSE(isTicked(pdf, 150, 738)) << "(2), a foreign one";
 }
 
 TEST_F(PrintCommand, AFolderTakesThePrintUnderTheNameOfItsReturn) {

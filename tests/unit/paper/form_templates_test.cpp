@@ -12,7 +12,6 @@
 namespace lodge {
 namespace {
 
-using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
 class FormTemplate : public ::testing::TestWithParam<int> {
