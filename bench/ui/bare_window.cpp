@@ -37,6 +37,10 @@ int main(int argc, char** argv) {
     add<QCheckBox>(*grid, BARE_TICKS);
     add<QPushButton>(*grid, BARE_BUTTONS);
     add<QLabel>(*grid, BARE_LABELS);
+    const QList<QLabel*> labels = centre->findChildren<QLabel*>();
+    for (QLabel* label : labels.first(BARE_WRAPPED)) {
+        label->setWordWrap(true); // which is what asks for the dictionary of Thai words
+    }
     window.setCentralWidget(centre);
     window.resize(1366, 768);
     window.show();

@@ -1,6 +1,9 @@
 #include "file/recovery.h"
 
 #include "file/archive.h"
+#include "file/file_io.h"
+#include "file/file_operations.h"
+#include "file/safe_writer.h"
 #include "file/store_load.h"
 
 #include <fmt/format.h>
@@ -46,10 +49,10 @@ int holdLock(const std::string& path) {
 
 /// The folder and those above it that are missing.
 bool makeFolders(FileOperations& files, const std::string& folder) {
-    for (std::size_t slash = folder.find('/', 1); slash != std::string::npos; slash = folder.find('/', slash + 1))
-        if (files.kindOf(folder.substr(0, slash)).error == ENOENT
-            && !makeFolderSafely(files, folder.substr(0, slash)).ok())
-            return false;
+    for (std::size_t end = folder.find('/', 1); end != std::string::npos; end = folder.find('/', end + 1)) {
+        const std::string part = folder.substr(0, end);
+        if (files.kindOf(part).error == ENOENT && !makeFolderSafely(files, part).ok()) return false;
+    }
     return true;
 }
 
@@ -63,7 +66,7 @@ std::vector<Candidate> newestFirst(const std::string& folder, std::string_view e
     SystemFiles files;
     std::vector<Candidate> found;
     for (const std::string& name : files.namesIn(folder).value) {
-        const std::string path = folder + name;
+        const std::string path = asFolder(folder) + name;
         struct stat entry {};
         if (!name.starts_with('.') && name.ends_with(ending) && ::stat(path.c_str(), &entry) == 0
             && S_ISREG(entry.st_mode))
@@ -91,8 +94,7 @@ std::optional<ReturnNote> noteOf(const Candidate& candidate) {
 void sweepLocks(const std::string& folder) {
     SystemFiles files;
     for (const Candidate& lock : newestFirst(folder, lockEnding)) {
-        const std::string copy =
-            lock.path.substr(0, lock.path.size() - lockEnding.size()).append(copyEnding);
+        const std::string copy = lock.path.substr(0, lock.path.size() - lockEnding.size()).append(copyEnding);
         if (files.kindOf(copy).error == ENOENT)
             (void)RecoverySlot::claim(copy); // letting go of a place without a copy removes it
     }
@@ -201,7 +203,8 @@ void RecoveryWriter::work(const std::stop_token& stop) {
 void RecoveryWriter::store(const std::string& text) {
     if (!slot_) slot_ = RecoverySlot::make(folder_);
     if (!slot_) return;
-    const Packed packed = packArchive(innerName, text, std::chrono::local_days{std::chrono::year{1980} / 1 / 1});
+    const Packed packed =
+        packArchive(innerName, text, std::chrono::local_days{std::chrono::year{1980} / 1 / 1});
     SystemFiles files;
     if (packed.error.empty()) (void)storeSafely(files, slot_->path(), packed.bytes);
 }

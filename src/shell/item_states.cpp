@@ -17,8 +17,8 @@ namespace {
 
 /// What a page keeps, and from which entry on a person fills it in.
 struct PageArray {
-    std::int16_t page;
-    const FieldArray ReturnState::*fields;
+    std::int16_t page = 0;
+    const FieldArray ReturnState::*fields = nullptr;
     std::size_t first = 0;
 };
 

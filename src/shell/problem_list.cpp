@@ -1,7 +1,7 @@
 #include "shell/problem_list.h"
 
-#include "shell/form_copy.h"
 #include "shell/page_table.h"
+#include "shell/return_snapshot.h"
 #include "shell/store_sequence.h"
 
 #include <algorithm>
@@ -63,24 +63,8 @@ std::vector<Problem> ProblemLister::list(const ReturnState& state) {
 }
 
 std::vector<Problem> ProblemLister::list(const ReturnState& state, const Form& pageOnScreen) {
-    takeFromScreen(state, pageOnScreen);
+    takeFromScreen(program_, state, pageOnScreen);
     return listCopy();
-}
-
-/// Leaves the page as a store leaves it, but for its light check.
-void ProblemLister::takeFromScreen(const ReturnState& state, const Form& pageOnScreen) {
-    program_.state = state;
-    const PageRow* row = pageOfForm(pageOnScreen.name());
-    if (row == nullptr) {
-        return;
-    }
-    Form& copy = program_.desk.load(row->form);
-    copyControls(pageOnScreen, copy);
-    program_.state = state; // whatever the page did to the return while it loaded
-    if (row->store != nullptr) {
-        row->store(program_);
-    }
-    program_.desk.unload(row->form);
 }
 
 std::vector<Problem> ProblemLister::listCopy() {

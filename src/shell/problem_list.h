@@ -42,7 +42,6 @@ class ProblemLister {
     [[nodiscard]] const ReturnState& stored() const { return program_.state; }
 
   private:
-    void takeFromScreen(const ReturnState& state, const Form& pageOnScreen);
     std::vector<Problem> listCopy();
 
     SilentHost host_;

@@ -1,13 +1,15 @@
 #include "ui/amount_page.h"
 
+#include "pages/schedules/column.h"
 #include "pages/schedules/item12_page.h"
+#include "pages/schedules/item3_lines.h"
 #include "pages/schedules/item3_page.h"
 #include "pages/schedules/schedule.h"
 #include "ui/amount_captions.h"
 #include "ui/amount_rows.h"
-#include "ui/balance_tie.h"
 #include "ui/layouts.h"
 #include "ui/sheet_title.h"
+#include "ui/tie_tag.h"
 
 #include <QFrame>
 #include <QRegularExpression>
@@ -36,17 +38,46 @@ QString saidName(int item, const QString& number, Column column, const QString& 
     return name.replace(QLatin1Char('\n'), QLatin1Char(' '));
 }
 
-/// A row, and below its caption the item from which the caption says that its figures come, if it does.
-AmountRow* makeRow(AmountRow::Kind kind, const QString& number, const QString& caption) {
-    static const QRegularExpression origin(QStringLiteral("\\s*\\((จากรายการที่ (\\d+)[^)]*)\\)$"));
+/// Another item with which figures of a row must agree.
+struct Source {
+    int item = 0; ///< 0 for none.
+    QString text;
+};
+
+/// Leaves of a caption what the line is about, and gives the item that its bracket names.
+Source cutSource(QString& caption) {
+    static const QRegularExpression origin(
+        QStringLiteral("\\s*\\((จากรายการที่ (\\d+)(?:\\s+\\d+\\.)?(?:\\s+ถึง\\s+\\d+\\.)?)\\s*([^)]*)\\)$"));
     const QRegularExpressionMatch match = origin.match(caption);
     if (!match.hasMatch()) {
-        return new AmountRow(kind, number, caption);
+        return {};
     }
-    auto* row = new AmountRow(kind, number, caption.left(match.capturedStart()));
-    row->addOrigin(match.captured(1).simplified(),
-        QStringLiteral("cmdItem%1").arg(match.captured(2).toInt(), 2, 10, QLatin1Char('0')));
-    return row;
+    caption = caption.left(match.capturedStart());
+    if (!match.captured(3).isEmpty()) {
+        caption += QStringLiteral("\n(%1)").arg(match.captured(3));
+    }
+    return {match.captured(2).toInt(), match.captured(1).simplified()};
+}
+
+/// The tag of the row's ties; nullptr for a row that stands for itself.
+TieTag* addSource(AmountRow& row, const Source& source) {
+    if (source.item == 0) {
+        row.addSourceGap();
+        return nullptr;
+    }
+    return row.addSource(source.text, QStringLiteral("cmdItem%1").arg(source.item, 2, 10, QLatin1Char('0')));
+}
+
+/// The figure of an item by its name in the return.
+QString entryName(const char* form, std::size_t entry) {
+    QString fields = QLatin1String(form);
+    return QStringLiteral("%1[%2]")
+        .arg(fields.replace(QLatin1String("frmLodge"), QLatin1String("strFld")))
+        .arg(entry);
+}
+
+QString totalName(const Schedule& schedule, Column column) {
+    return entryName(schedule.form, entryOf(schedule, scheduleLines(schedule).back(), column));
 }
 
 /// An empty page with its title, and the parts of it that are filled.
@@ -82,26 +113,71 @@ struct Sheet {
 
 // Items 4 to 10.
 
+/// The figures of one row, by column.
+using Figures = std::array<QWidget*, 3>;
+
+/// The line of item 4 to which item 5 is carried, and that of item 9 which item 8 gives.
+constexpr int costOfManufactureCell = 2;
+constexpr int givingCell = 5;
+
+/// Where the total of a schedule is carried to.
+Source carriedTo(const Schedule& schedule) {
+    if (schedule.item == 5) {
+        return {4, QStringLiteral("รายการที่ 4 ข้อ 3")};
+    }
+    const auto line = std::ranges::find(item3Lines(), schedule.pageCode, &Item3Line::fromPage);
+    return {3, QStringLiteral("รายการที่ 3 ข้อ %1").arg(line->number)};
+}
+
+/// The figure with which the total of a schedule must agree.
+QString carriedName(const Schedule& schedule, Column column) {
+    if (schedule.item == 5) {
+        const Schedule& item4 = scheduleOf(4);
+        const auto line = std::ranges::find(scheduleLines(item4), costOfManufactureCell, &ScheduleLine::cell);
+        return entryName(item4.form, entryOf(item4, *line, column));
+    }
+    const auto line = std::ranges::find(item3Lines(), schedule.pageCode, &Item3Line::fromPage);
+    return entryName(frmLodgePage3_3::formName, line->entries[slot(column)]);
+}
+
+void tieLine(TieTag& tie, const Schedule& schedule, const ScheduleLine& line, const Figures& figures) {
+    if (schedule.item == scheduleOf(9).item && line.cell == givingCell) {
+        tie.compare(*figures[slot(Column::Total)], QStringLiteral("FucChk.TmpSum8_15to25"));
+        return;
+    }
+    for (const Column column : inputColumns) {
+        const bool isTotal = line.cell == totalCell;
+        tie.compare(*figures[slot(column)],
+            isTotal ? carriedName(schedule, column) : totalName(scheduleOf(5), column));
+    }
+}
+
+AmountRow* makeScheduleRow(const Schedule& schedule, const ScheduleLine& line) {
+    const QString number = numberText(line.number);
+    QString caption = fromText(scheduleCaption(schedule.item, line.cell));
+    const Source source = line.cell == totalCell ? carriedTo(schedule) : cutSource(caption);
+    auto* row = new AmountRow(
+        line.isComputed() ? AmountRow::Kind::Computed : AmountRow::Kind::Typed, number, caption);
+    Figures figures{};
+    for (const Column column : allColumns) {
+        const QString name =
+            controlWidgetName(controlName(schedule, line, column), controlIndex(line, column));
+        const QString said = saidName(schedule.item, number, column, caption);
+        const bool computed = line.isComputed() || column == Column::Total;
+        figures[slot(column)] =
+            computed ? static_cast<QWidget*>(row->addFigure(name, said)) : row->addBox(name, said);
+    }
+    if (TieTag* tie = addSource(*row, source)) {
+        tieLine(*tie, schedule, line, figures);
+    }
+    return row;
+}
+
 std::unique_ptr<QWidget> makeSchedule(const Schedule& schedule) {
     Sheet sheet(schedule.item);
     sheet.addHead(makeColumnHead());
     for (const ScheduleLine& line : scheduleLines(schedule)) {
-        const QString number = numberText(line.number);
-        const QString caption = fromText(scheduleCaption(schedule.item, line.cell));
-        auto* row =
-            makeRow(line.isComputed() ? AmountRow::Kind::Computed : AmountRow::Kind::Typed, number, caption);
-        row->endCaption();
-        for (const Column column : allColumns) {
-            const QString name =
-                controlWidgetName(controlName(schedule, line, column), controlIndex(line, column));
-            const QString said = saidName(schedule.item, number, column, caption);
-            if (line.isComputed() || column == Column::Total) {
-                row->addFigure(name, said);
-            } else {
-                row->addBox(name, said);
-            }
-        }
-        sheet.add(row);
+        sheet.add(makeScheduleRow(schedule, line));
     }
     return std::move(sheet.root);
 }
@@ -131,16 +207,37 @@ void addTicks(AmountRow& row, int number) {
     if (ticked != tickedLines.end()) {
         row.addTick(QLatin1String(ticked->profit));
         row.addTick(QLatin1String(ticked->loss));
-        row.addRemark(QString::fromUtf8(ticked->remark));
+        if (ticked->remark[0] != '\0') {
+            row.addRemark(QString::fromUtf8(ticked->remark));
+        }
     }
 }
 
-AmountRow* makeTypedRow(const QString& number, const QString& caption, int place) {
-    auto* row = makeRow(AmountRow::Kind::Typed, number, caption);
-    row->endCaption();
-    row->addBox(controlWidgetName("txtMoney31", place), saidName(3, number, Column::Exempt, caption));
-    row->addBox(controlWidgetName("txtMoney32", place), saidName(3, number, Column::Taxable, caption));
-    row->addFigure(controlWidgetName("lblMoney33", place), saidName(3, number, Column::Total, caption));
+/// The carried loss of item 11, which line 15 takes over in the column of totals.
+constexpr int carriedLossPage = 611;
+constexpr const char* carriedLossName = "strFldPage6_11[68]";
+
+void tieLine(TieTag& tie, int fromPage, const Figures& figures) {
+    if (fromPage == carriedLossPage) {
+        tie.compare(*figures[slot(Column::Total)], QLatin1String(carriedLossName));
+        return;
+    }
+    const auto schedule = std::ranges::find(schedules, fromPage, &Schedule::pageCode);
+    for (const Column column : inputColumns) {
+        tie.compare(*figures[slot(column)], totalName(*schedule, column));
+    }
+}
+
+AmountRow* makeTypedRow(const QString& number, QString caption, int place, int fromPage = 0) {
+    const Source source = cutSource(caption);
+    auto* row = new AmountRow(AmountRow::Kind::Typed, number, caption);
+    const Figures figures = {
+        row->addBox(controlWidgetName("txtMoney31", place), saidName(3, number, Column::Exempt, caption)),
+        row->addBox(controlWidgetName("txtMoney32", place), saidName(3, number, Column::Taxable, caption)),
+        row->addFigure(controlWidgetName("lblMoney33", place), saidName(3, number, Column::Total, caption))};
+    if (TieTag* tie = addSource(*row, source)) {
+        tieLine(*tie, fromPage, figures);
+    }
     return row;
 }
 
@@ -155,6 +252,7 @@ AmountRow* makeComputedRow(const Item3Line& line) {
         row->addFigure(label.empty() ? controlWidgetName("lblMoney33", line.place) : controlWidgetName(label),
             saidName(3, number, column, caption));
     }
+    row->addSourceGap();
     return row;
 }
 
@@ -166,8 +264,10 @@ void addItem3Foot(const Sheet& sheet) {
     sideBox->endCaption();
     sideBox->addTick(QStringLiteral("chkProfitX"));
     sideBox->addTick(QStringLiteral("chkLoseX"));
-    sideBox->follow(*sideBox->addBox(QStringLiteral("txtBOI"), saidName(3, {}, Column::Total, stated)));
+    QLineEdit* amount = sideBox->addBox(QStringLiteral("txtBOI"), saidName(3, {}, Column::Total, stated));
+    sideBox->addSourceGap();
     foot->addWidget(sideBox);
+    sideBox->follow(*amount); // only in its place: by itself it would come up as a window
 
     auto* line22 = new AmountRow(AmountRow::Kind::Computed, numberText(22), QString());
     line22->addTick(QStringLiteral("chkProfit20"));
@@ -175,6 +275,7 @@ void addItem3Foot(const Sheet& sheet) {
     line22->endCaption();
     line22->addFigure(
         QStringLiteral("lblTotMoney33"), saidName(3, numberText(22), Column::Total, fromText(itemName(3))));
+    line22->addSource(QStringLiteral("รายการที่ 2 ข้อ 1"), QStringLiteral("cmdItem01"));
     foot->addWidget(line22);
 }
 
@@ -182,8 +283,9 @@ std::unique_ptr<QWidget> makeItem3() {
     Sheet sheet(3);
     sheet.addHead(makeColumnHead());
     for (const Item3Line& line : item3Lines()) {
-        sheet.add(line.isComputed() ? makeComputedRow(line)
-                                    : makeTypedRow(numberText(line.number), captionOf(line), line.place));
+        sheet.add(line.isComputed()
+                      ? makeComputedRow(line)
+                      : makeTypedRow(numberText(line.number), captionOf(line), line.place, line.fromPage));
         if (line.number == 17) { // its further items stand right below its first one
             for (const Item3SubLine& subLine : item3SubLines()) {
                 sheet.add(makeTypedRow(fromText(subLine.number), fromText(subLine.text), subLine.place));
@@ -210,10 +312,8 @@ AmountRow* makeBalanceRow(const BalanceLine& line) {
     const QString said = QStringLiteral("รายการที่ 12 %1 %2").arg(fromText(line.number), caption);
     if (name == QLatin1String(resultBox)) {
         // Before the ticks decide, the amount is neither a profit nor a loss.
-        row->addTick(QStringLiteral("chkProfit"))->setAccessibleName(QStringLiteral("กำไรสะสม"));
-        row->addRemark(QStringLiteral("กำไร"));
-        row->addTick(QStringLiteral("chkLose"))->setAccessibleName(QStringLiteral("ขาดทุนสะสม"));
-        row->addRemark(QStringLiteral("ขาดทุน"));
+        row->addTick(QStringLiteral("chkProfit"));
+        row->addTick(QStringLiteral("chkLose"));
     }
     row->endCaption();
     if (sum) {
@@ -237,6 +337,20 @@ QVBoxLayout* makeSide(std::span<const BalanceLine> lines) {
     return side;
 }
 
+QWidget* makeBalanceTie(const QWidget& sides) {
+    auto* foot = new QWidget;
+    auto* line = new QHBoxLayout(foot);
+    line->setContentsMargins(0, 4, 4, 4);
+    line->setSpacing(8);
+    line->addStretch(1);
+    line->addWidget(makeText(QStringLiteral("รวมสินทรัพย์ กับ รวมหนี้สินและส่วนของผู้ถือหุ้น"), "label"));
+    auto* tie = new TieTag;
+    tie->compare(*sides.findChild<QLabel*>(QStringLiteral("lblSumMoney2")),
+        *sides.findChild<QLabel*>(QStringLiteral("lblSumMoney34")));
+    line->addWidget(tie);
+    return foot;
+}
+
 std::unique_ptr<QWidget> makeItem12() {
     Sheet sheet(12);
     auto* both = new QWidget;
@@ -249,8 +363,7 @@ std::unique_ptr<QWidget> makeItem12() {
     sides->addWidget(upright);
     sides->addLayout(makeSide(fundingLines()), 1);
     sheet.add(both);
-    sheet.addFoot()->addWidget(new BalanceTie(*both->findChild<QLabel*>(QStringLiteral("lblSumMoney2")),
-        *both->findChild<QLabel*>(QStringLiteral("lblSumMoney34"))));
+    sheet.addFoot()->addWidget(makeBalanceTie(*both));
     return std::move(sheet.root);
 }
 

@@ -3,11 +3,15 @@
 #include "ui/amount_page.h"
 #include "ui/link_label.h"
 #include "ui/tick_box.h"
+#include "ui/tie_tag.h"
 #include "ui/type.h"
+#include "ui/wrap_label.h"
 
 #include <QApplication>
 #include <QEvent>
+#include <QKeyEvent>
 #include <QStyle>
+#include <QVBoxLayout>
 
 #include <array>
 
@@ -16,9 +20,9 @@ namespace lodge {
 namespace {
 
 constexpr int rowHeight = 30;
-/// Two lines and what the marks above and below them need.
-constexpr int lineHeight = 23;
-constexpr int linePadding = 3;
+/// Where the figures come from, and how far they do not agree with it.
+constexpr int sourceWidth = 256;
+constexpr int tieWidth = 140;
 constexpr int columnGap = 4;
 constexpr int sheetPadding = 16;
 constexpr int scrollBarWidth = 12;
@@ -32,13 +36,6 @@ int widthOf(const char* type, const char* text) {
 
 /// The widest number of a line, "75.13", and the gap behind it.
 int numberWidth() { return widthOf("heading", "75.13") + 8; }
-
-QLabel* makeText(const QString& text, const char* type) {
-    auto* label = new QLabel(text);
-    label->setTextFormat(Qt::PlainText);
-    label->setProperty("type", QByteArray(type));
-    return label;
-}
 
 void repolish(QWidget& widget) {
     widget.style()->unpolish(&widget);
@@ -63,6 +60,13 @@ void tint(QWidget* focused, bool inHand) {
 
 int amountColumnWidth() { return widthOf("heading", "(9,999,999,999,999.99)") + 21; }
 
+QLabel* makeText(const QString& text, const char* type) {
+    auto* label = new WrapLabel(text);
+    label->setTextFormat(Qt::PlainText);
+    label->setProperty("type", QByteArray(type));
+    return label;
+}
+
 QString fromText(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
@@ -73,11 +77,10 @@ QString controlWidgetName(std::string_view name, int index) {
 }
 
 AmountRow::AmountRow(Kind kind, const QString& number, const QString& caption)
-    : kind_(kind), lines_(static_cast<int>(caption.count(QLatin1Char('\n'))) + 1),
-      line_(new QHBoxLayout(this)), caption_(new QVBoxLayout) {
-    const bool plain = kind == Kind::Typed;
+    : kind_(kind), line_(new QHBoxLayout(this)), captioned_(!caption.isEmpty()),
+      said_(number.isEmpty() ? caption : QStringLiteral("ข้อ %1").arg(number)) {
     setProperty("role", kind == Kind::Computed ? QByteArray("sum") : QByteArray("line"));
-    makeRoom(lines_);
+    setMinimumHeight(rowHeight);
     line_->setContentsMargins(sheetPadding, 0, columnGap, 0);
     line_->setSpacing(columnGap);
     QLabel* numberLabel = makeText(number, "heading");
@@ -85,36 +88,36 @@ AmountRow::AmountRow(Kind kind, const QString& number, const QString& caption)
     numberLabel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     numberLabel->setIndent(columnGap);
     line_->addWidget(numberLabel);
-    caption_->setSpacing(0);
-    line_->addLayout(caption_);
-    if (!caption.isEmpty()) {
-        QLabel* captionLabel = makeText(caption, plain ? "field" : "heading");
+    line_->addSpacing(columnGap);
+    if (captioned_) {
+        QLabel* captionLabel = makeText(caption, kind == Kind::Typed ? "field" : "heading");
         captionLabel->setProperty("tone", kind == Kind::Computed ? QByteArray("strong") : QByteArray());
-        caption_->addWidget(captionLabel);
+        captionLabel->setWordWrap(true);
+        line_->addWidget(captionLabel, 1);
     }
-}
-
-void AmountRow::makeRoom(int lines) {
-    lines_ = lines;
-    setFixedHeight(lines == 1 ? rowHeight : lines * lineHeight + linePadding);
-}
-
-void AmountRow::addOrigin(const QString& text, const QString& chooserButton) {
-    makeRoom(lines_ + 1);
-    caption_->addWidget(new LinkLabel(text, chooserButton), 0, Qt::AlignLeft);
 }
 
 QAbstractButton* AmountRow::addTick(const QString& name) {
     auto* tick = new TickBox;
     tick->setObjectName(name);
-    line_->addWidget(tick);
+    tick->setProperty("said", said_);
+    line_->addWidget(tick, 0, Qt::AlignVCenter);
     line_->addSpacing(2 * columnGap);
     return tick;
 }
 
-void AmountRow::addRemark(const QString& text) { line_->addWidget(makeText(text, "field")); }
+void AmountRow::addRemark(const QString& text) {
+    QLabel* remark = makeText(text, "field");
+    remark->setWordWrap(true);
+    line_->addWidget(remark, 1);
+    captioned_ = true;
+}
 
-void AmountRow::endCaption() { line_->addStretch(1); }
+void AmountRow::endCaption() {
+    if (!captioned_) {
+        line_->addStretch(1);
+    }
+}
 
 QLineEdit* AmountRow::addBox(const QString& name, const QString& said) {
     auto* box = new QLineEdit;
@@ -139,11 +142,41 @@ QLabel* AmountRow::addFigure(const QString& name, const QString& said) {
     return figure;
 }
 
-void AmountRow::addGap() { line_->addSpacing(amountColumnWidth()); }
+TieTag* AmountRow::addSource(const QString& text, const QString& chooserButton) {
+    auto* source = new QWidget;
+    source->setFixedWidth(sourceWidth);
+    auto* both = new QHBoxLayout(source);
+    both->setContentsMargins(2 * columnGap, 0, 0, 0);
+    both->setSpacing(columnGap);
+    auto* link = new LinkLabel(text, chooserButton);
+    link->setWordWrap(true);
+    both->addWidget(link, 1);
+    auto* tie = new TieTag;
+    tie->setMaximumWidth(tieWidth);
+    both->addWidget(tie);
+    line_->addWidget(source);
+    return tie;
+}
+
+void AmountRow::addSourceGap() {
+    auto* gap = new QWidget; // as wide as a source at every zoom
+    gap->setFixedWidth(sourceWidth);
+    line_->addWidget(gap);
+}
 
 void AmountRow::follow(QWidget& part) {
     setVisible(!part.isHidden());
     part.installEventFilter(this);
+}
+
+void AmountRow::keyPressEvent(QKeyEvent* event) {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    auto* source = findChild<LinkLabel*>();
+    if (enter && event->modifiers().testFlag(Qt::ControlModifier) && source != nullptr) {
+        emit source->followed();
+    } else {
+        QFrame::keyPressEvent(event);
+    }
 }
 
 bool AmountRow::eventFilter(QObject* /*watched*/, QEvent* event) {
@@ -178,6 +211,10 @@ QFrame* makeColumnHead() {
         }
         line->addLayout(column);
     }
+    QLabel* source = makeText(QStringLiteral("ยอดตามรายการ"), "label");
+    source->setFixedWidth(sourceWidth);
+    source->setIndent(2 * columnGap);
+    line->addWidget(source);
     return head;
 }
 

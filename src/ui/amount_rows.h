@@ -8,7 +8,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QString>
-#include <QVBoxLayout>
 
 #include <string_view>
 
@@ -19,6 +18,11 @@ namespace lodge {
 
 [[nodiscard]] QString fromText(std::string_view text);
 
+class TieTag;
+
+/// A text in a use of type (ui/type.h).
+[[nodiscard]] QLabel* makeText(const QString& text, const char* type);
+
 /// One line of the form.
 class AmountRow : public QFrame {
     Q_OBJECT
@@ -28,8 +32,6 @@ class AmountRow : public QFrame {
 
     AmountRow(Kind kind, const QString& number, const QString& caption);
 
-    /// Below the caption, where its figures come from: a way to the item of that button of the chooser.
-    void addOrigin(const QString& text, const QString& chooserButton);
     /// A tick between caption and figures.
     QAbstractButton* addTick(const QString& name);
     void addRemark(const QString& text);
@@ -39,22 +41,25 @@ class AmountRow : public QFrame {
     QLineEdit* addBox(const QString& name, const QString& said);
     /// A figure that the program computes.
     QLabel* addFigure(const QString& name, const QString& said);
-    /// Leaves a column free.
-    void addGap();
+    /// Behind the figures: the item that they come from or go to, a way to it by that button of the chooser,
+    /// and whether they agree with it.
+    TieTag* addSource(const QString& text, const QString& chooserButton);
+    /// Leaves the place of a source free.
+    void addSourceGap();
 
     /// Has the row stand on screen only while that widget of it does.
     void follow(QWidget& part);
 
   protected:
+    /// Ctrl+Enter goes where the source of the row leads.
+    void keyPressEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    void makeRoom(int lines);
-
     Kind kind_;
-    int lines_;
     QHBoxLayout* line_;
-    QVBoxLayout* caption_;
+    bool captioned_;
+    QString said_; // what a screen reader says before the caption of a tick
 };
 
 /// The heads of the three columns; stands outside of what scrolls.

@@ -1,12 +1,23 @@
 #include "ui/binder.h"
 
+#include "shell/chooser.h"
+#include "shell/page_table.h"
+#include "ui/card_button.h"
+#include "ui/key_commands.h"
 #include "ui/look.h"
+#include "ui/page_list.h"
+#include "ui/page_scroll.h"
+#include "ui/problem_dock.h"
+#include "ui/problem_watch.h"
+#include "ui/status_line.h"
+#include "ui/type.h"
 
 #include <QApplication>
 #include <QDialog>
 #include <QHBoxLayout>
 #include <QScreen>
 #include <QScrollArea>
+#include <QShortcut>
 #include <QStackedWidget>
 #include <QStatusBar>
 
@@ -23,21 +34,22 @@ constexpr const char* statusName = "decorStatus";
 /// And what a page calls the part that stands in the status bar while the page is on screen.
 constexpr const char* pageStatusName = "decorPageStatus";
 
+/// In the status bar: behind decorStatus, before what stands at the end for every page.
+constexpr int placeOfPageStatus = 1;
+
 /// How far a field that gets the focus stands off the edge of a scrolled sheet: three rows.
 constexpr int scrollMargin = 90;
-
-/// Whether a person could put the focus there.
-bool canRestOn(const Control& control) {
-    return control.takesFocus() && control.isShown() && control.isOpen() && !control.locked();
-}
 
 } // namespace
 
 Binder::Binder(Program& program, const Look& look)
     : program_(program), look_(look), clock_(program.desk), user_(program.desk) {
     settling_.setSingleShot(true);
+    connect(&look, &Look::changed, this, &Binder::dressAgain);
     connect(&settling_, &QTimer::timeout, this, &Binder::settle);
     program.desk.observe(*this);
+    problems_ = std::make_unique<ProblemWatch>(program, [this] { return waits_ == 0; });
+    connect(problems_.get(), &ProblemWatch::changed, this, &Binder::showItemStates);
 }
 
 Binder::~Binder() {
@@ -60,6 +72,16 @@ void Binder::act(const std::function<void(User&)>& what) {
     boxAnswered_ = false;
     const Desk::EventScope scope(program_.desk);
     what(user_);
+    if (statusLine_ != nullptr) {
+        statusLine_->refresh();
+    }
+}
+
+void Binder::tellStatus() {
+    if (statusLine_ != nullptr) {
+        statusLine_->refresh();
+        statusLine_->refreshStore();
+    }
 }
 
 void Binder::press(Control& button) {
@@ -68,15 +90,22 @@ void Binder::press(Control& button) {
     const Control* before = desk.focus();
     const std::string form = before == nullptr ? std::string() : before->form().name();
     const std::string name = before == nullptr ? std::string() : before->fullName();
+    const std::string topBefore = desk.top() == nullptr ? std::string() : desk.top()->name();
     act([&](User& user) {
         user.click(button);
-        // A tool that left the page as it was gives the focus back to the field that it was called from.
-        if (isTool && desk.focus() == &button) {
-            const Form* page = desk.find(form);
-            Control* field = page == nullptr ? nullptr : page->find(name);
-            if (field != nullptr && field != &button) {
-                user.focus(*field);
-            }
+        if (!isTool || desk.focus() != &button) {
+            return;
+        }
+        // A tool that left the page as it was gives the focus back to the field that it was called from; the
+        // page that it brought up gets the focus, unless it took it by itself.
+        const Form* top = desk.top();
+        const Form* page = desk.find(form);
+        Control* field = page == nullptr ? nullptr : page->find(name);
+        if (top != nullptr && top->name() != topBefore && viewOf(top->name()) != nullptr) {
+            field = restingPlace(*top);
+        }
+        if (field != nullptr && field != &button) {
+            user.focus(*field);
         }
     });
     settleSoon();
@@ -98,6 +127,14 @@ void Binder::openItem(const std::string& chooserButton) {
     }
 }
 
+void Binder::moveAcross(Control& from, Direction where) {
+    const FormView* view = viewOf(from.form().name());
+    const ControlView* next = view == nullptr ? nullptr : view->neighbour(from, where);
+    if (next != nullptr) {
+        act([&](User& user) { user.focus(*next->control()); });
+    }
+}
+
 void Binder::waitBegins() {
     ++waits_;
     clock_.hold();
@@ -108,6 +145,10 @@ void Binder::waitEnds() {
     clock_.release();
     boxAnswered_ = true;
     settleSoon();
+    problems_->lookSoon();
+    if (waits_ == 0) {
+        emit waitsOver();
+    }
 }
 
 FormView& Binder::viewFor(Form& form) {
@@ -126,7 +167,40 @@ FormView& Binder::viewFor(Form& form) {
     }
     // Only now: a style sheet takes the fonts away from widgets that change their window.
     look_.dress(root);
+    view->paintAgain(); // the places of points depend on the font
+    if (auto* dialog = qobject_cast<QDialog*>(&root)) {
+        fitDialog(*dialog);
+    }
     return *view;
+}
+
+void Binder::fitDialog(QDialog& dialog) {
+    constexpr const char* designName = "designedWindow";
+    if (!dialog.property(designName).isValid()) {
+        // A layout that gives no size of its own wants the one that its parts need.
+        dialog.setProperty(designName, dialog.testAttribute(Qt::WA_Resized) ? dialog.size() : QSize());
+    }
+    const QSize design = dialog.property(designName).toSize();
+    if (design.isValid()) {
+        dialog.resize(
+            zoomed(design).expandedTo(dialog.minimumSizeHint()).boundedTo(dialog.screen()->availableSize()));
+    } else {
+        dialog.adjustSize();
+    }
+}
+
+void Binder::dressAgain() {
+    if (frame_ == nullptr) {
+        return;
+    }
+    look_.dress(*frame_); // its pages and dialogs lie in it
+    statusLine_->showZoom(look_.zoom());
+    for (const auto& [name, view] : views_) {
+        view->paintAgain();
+        if (auto* dialog = qobject_cast<QDialog*>(view->root())) {
+            fitDialog(*dialog);
+        }
+    }
 }
 
 void Binder::placeFrame(QMainWindow& frame) {
@@ -138,11 +212,103 @@ void Binder::placeFrame(QMainWindow& frame) {
     frame.setMenuWidget(frame.findChild<QWidget*>(QLatin1String(toolsName)));
     frame.statusBar()->setSizeGripEnabled(false);
     frame.statusBar()->addWidget(frame.findChild<QWidget*>(QLatin1String(statusName)), 1);
+    keys_ = std::make_unique<KeyCommands>(program_, *this, frame);
+    connect(keys_.get(), &KeyCommands::zoomAsked, this, &Binder::zoomAsked);
+    statusLine_ =
+        new StatusLine(program_, *frame.findChild<QWidget*>(QLatin1String(statusName)), *frame.statusBar());
+    statusLine_->setParent(&frame);
+    placeProblems(frame);
+    statusLine_->addZoom(look_.zoom());
+}
+
+void Binder::placeProblems(QMainWindow& frame) {
+    problemDock_ = new ProblemDock(*problems_, &frame);
+    frame.addDockWidget(Qt::BottomDockWidgetArea, problemDock_);
+    problemDock_->hide();
+    connect(problemDock_, &ProblemDock::chosen, this, &Binder::goToProblem);
+    connect(problemDock_, &ProblemDock::left, this, &Binder::settleSoon);
+    auto* pages = new PageList(program_, *problems_, &frame);
+    frame.addDockWidget(Qt::LeftDockWidgetArea, pages);
+    connect(pages, &PageList::chosen, this, [this](std::int16_t page) { goToPage(page, {}); });
+    connect(pages, &PageList::left, this, &Binder::settleSoon);
+    auto* button = new ProblemButton(*problems_);
+    frame.statusBar()->addPermanentWidget(button);
+    connect(button, &QToolButton::clicked, this, &Binder::toggleProblems);
+
+    const auto bind = [&](const QKeySequence& key, const auto& what) {
+        connect(new QShortcut(key, &frame), &QShortcut::activated, this, what);
+    };
+    bind(QKeySequence(Qt::Key_F7), [this] { toggleProblems(); });
+    bind(QKeySequence(Qt::Key_F8), [this] { problemDock_->step(1); });
+    bind(QKeySequence(Qt::SHIFT | Qt::Key_F8), [this] { problemDock_->step(-1); });
+}
+
+/// The list comes up with the focus in it, and goes when it has the focus already.
+void Binder::toggleProblems() {
+    if (!problems_->hasReturn() || waits_ > 0) {
+        return;
+    }
+    if (problemDock_->isVisible() && (problemDock_->hasFocusInside() || problems_->problems().empty())) {
+        problemDock_->hide();
+        settleSoon();
+        return;
+    }
+    // A field is left before its page is: its check may keep the person there.
+    act([](User& user) { user.leave(); });
+    if (program_.desk.focus() == nullptr) {
+        problemDock_->enter();
+    }
+}
+
+void Binder::goToProblem(const Problem& problem) { goToPage(problem.page, {problem.refusal.control}); }
+
+void Binder::goToPage(std::int16_t page, std::vector<std::string> controls) {
+    const PageRow* row = findPage(page);
+    if (row == nullptr) {
+        return;
+    }
+    keys_->goTo({.chooserButton = row->chooserButton == nullptr ? std::string() : row->chooserButton,
+        .form = row->form,
+        .controls = std::move(controls)});
+    settleSoon();
+}
+
+void Binder::markFields() {
+    const PageRow* row = findPage(program_.state.intPageCur);
+    FormView* page = row == nullptr ? nullptr : viewOf(row->form);
+    if (page == nullptr) {
+        return;
+    }
+    std::map<std::string, QString> messages;
+    for (const Problem& problem : problems_->problems()) {
+        if (problem.page == row->code) {
+            messages.emplace(problem.refusal.control,
+                QString::fromStdString(onOneLine(problem.refusal.text)).simplified());
+        }
+    }
+    page->showProblems(messages);
+}
+
+void Binder::showItemStates() {
+    markFields();
+    const FormView* chooser = viewOf(frmLodgeChoose::formName);
+    if (chooser == nullptr) {
+        return;
+    }
+    for (const ItemState& item : problems_->items()) {
+        const PageRow* row = findPage(item.page);
+        auto* card = row->chooserButton == nullptr
+                         ? nullptr
+                         : chooser->root()->findChild<CardButton*>(QLatin1String(row->chooserButton));
+        if (card != nullptr) {
+            card->showState(item);
+        }
+    }
 }
 
 void Binder::placePage(QWidget& page) {
     if (pages_ != nullptr) {
-        pages_->addWidget(&page);
+        new PageScroll(page, *pages_); // the stack owns it
     }
 }
 
@@ -153,6 +319,8 @@ void Binder::placeDialog(const Form& form, QWidget& dialog) {
 
 void Binder::formShown(Form& form) {
     FormView& view = viewFor(form);
+    view.readOthers(program_.state);
+    tellStatus();
     if (view.isWindow()) {
         showWindow(form, *view.root());
     } else {
@@ -197,6 +365,7 @@ void Binder::formUnloaded(Form& form) {
     if (found == views_.end()) {
         return;
     }
+    tellStatus();
     // The widgets go when the event that unloaded the form has ended: it may have come from one of them.
     FormView* view = found->second;
     views_.erase(found);
@@ -213,7 +382,8 @@ void Binder::showTopPage() {
         return;
     }
     QWidget* page = shownPages_.empty() ? pages_->widget(0) : shownPages_.back()->root();
-    pages_->setCurrentWidget(page);
+    PageScroll* scroll = PageScroll::around(*page);
+    pages_->setCurrentWidget(scroll == nullptr ? page : scroll);
     if (status_ != nullptr && statusPage_ != page) {
         frame_->statusBar()->removeWidget(status_);
         status_->setParent(statusPage_); // it lives and dies with its page
@@ -221,7 +391,7 @@ void Binder::showTopPage() {
     status_ = page->findChild<QWidget*>(QLatin1String(pageStatusName));
     statusPage_ = page;
     if (status_ != nullptr) {
-        frame_->statusBar()->addPermanentWidget(status_);
+        frame_->statusBar()->insertPermanentWidget(placeOfPageStatus, status_);
         look_.dress(*status_);
         status_->show();
     }
@@ -254,6 +424,9 @@ void Binder::focusMoved(Control* control) {
     view->noteFocus(*control);
     bringFocus(*field->widget());
     field->focusCame();
+    if (keys_ != nullptr) {
+        keys_->followFocus();
+    }
     if (boxAnswered_ && program_.state.intError == 1) {
         field->markRefused();
     }
@@ -266,7 +439,7 @@ void Binder::bringFocus(QWidget& widget) {
     widget.setFocus(Qt::OtherFocusReason);
     for (QWidget* around = widget.parentWidget(); around != nullptr; around = around->parentWidget()) {
         if (auto* sheet = qobject_cast<QScrollArea*>(around)) {
-            sheet->ensureWidgetVisible(&widget, 0, scrollMargin);
+            sheet->ensureWidgetVisible(&widget, 0, zoomed(scrollMargin));
         }
     }
 }

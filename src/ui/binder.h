@@ -15,14 +15,21 @@
 #include <QTimer>
 
 #include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
+class QDialog;
 class QStackedWidget;
 
 namespace lodge {
 
+class KeyCommands;
 class Look;
+class StatusLine;
+class ProblemDock;
+class ProblemWatch;
+struct Problem;
 
 class Binder : public QObject, public DeskObserver, public UserDoor, public WaitWatcher {
     Q_OBJECT
@@ -35,13 +42,21 @@ class Binder : public QObject, public DeskObserver, public UserDoor, public Wait
     [[nodiscard]] FormView* viewOf(std::string_view form) const;
     [[nodiscard]] QMainWindow* frame() const { return frame_; }
 
+    /// Presses a button that the person can reach; false for one that is not open.
+    bool pressOpen(std::string_view form, const std::string& button);
+    /// Where the focus belongs when it comes back to a form, nullptr where nothing takes it.
+    [[nodiscard]] Control* restingPlace(const Form& form) const;
+
     void act(const std::function<void(User&)>& what) override;
     void press(Control& button) override;
     void openItem(const std::string& chooserButton) override;
+    void moveAcross(Control& from, Direction where) override;
     void settleSoon() override;
 
     void waitBegins() override;
     void waitEnds() override;
+    /// Whether a box or dialog waits for its answer.
+    [[nodiscard]] bool isWaiting() const { return waits_ > 0; }
 
     void formShown(Form& form) override;
     void formHidden(Form& form) override;
@@ -51,17 +66,32 @@ class Binder : public QObject, public DeskObserver, public UserDoor, public Wait
     void focusMoved(Control* control) override;
     void timersChanged() override { clock_.timersChanged(); }
 
+  signals:
+    /// The last box or dialog that waited has its answer.
+    void waitsOver();
+
+  signals:
+    /// A person wants everything drawn that many steps larger, or as designed for 0.
+    void zoomAsked(int steps);
+
   private:
     FormView& viewFor(Form& form);
-    bool pressOpen(std::string_view form, const std::string& button);
+    void dressAgain();
+    static void fitDialog(QDialog& dialog);
+    void tellStatus();
     void placeFrame(QMainWindow& frame);
     void placePage(QWidget& page);
     void placeDialog(const Form& form, QWidget& dialog);
     void showWindow(const Form& form, QWidget& window);
     void showTopPage();
+    void placeProblems(QMainWindow& frame);
+    void goToProblem(const Problem& problem);
+    void goToPage(std::int16_t page, std::vector<std::string> controls);
+    void toggleProblems();
+    void showItemStates();
+    void markFields();
     void settle();
     void bringFocus(QWidget& widget);
-    [[nodiscard]] Control* restingPlace(const Form& form) const;
 
     Program& program_;
     const Look& look_;
@@ -73,6 +103,10 @@ class Binder : public QObject, public DeskObserver, public UserDoor, public Wait
     std::vector<FormView*> shownPages_; // bottom to top
     QPointer<QWidget> status_;          // what the page on top has in the status bar
     QPointer<QWidget> statusPage_;
+    std::unique_ptr<KeyCommands> keys_; // of the frame
+    QPointer<StatusLine> statusLine_;
+    std::unique_ptr<ProblemWatch> problems_;
+    QPointer<ProblemDock> problemDock_;
     int waits_ = 0;
     bool boxAnswered_ = false; // a box came up in what the person did last
     QTimer settling_;          // fires once everything that is under way has ended

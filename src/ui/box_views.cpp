@@ -1,5 +1,6 @@
 #include "ui/box_views.h"
 
+#include "ui/plain_figure.h"
 #include "values/text.h"
 
 #include <QCoreApplication>
@@ -39,12 +40,54 @@ void BoxView::paint(Aspect aspect) {
 
 void BoxView::paintState() {
     const bool computed = control()->locked() || control()->back() == BackColour::Button;
-    setState(refused_ ? "refused" : computed ? "computed" : "typed");
+    setState(refused_ ? "refused" : computed ? "computed" : isInTheWay() ? "way" : "typed");
+    describe();
+}
+
+void BoxView::describe() {
+    QStringList said;
+    if (control()->kind() == ControlKind::MaskedBox) {
+        said << QStringLiteral("วัน/เดือน/ปี พ.ศ.");
+    } else if (static_cast<const TextBox&>(*control()).textKind() == TextKind::Amount) {
+        said << QStringLiteral("บาท");
+    }
+    if (control()->locked()) {
+        said << QStringLiteral("แก้ไขไม่ได้");
+    } else if (refused_) {
+        said << QStringLiteral("ไม่ผ่านการตรวจ");
+    } else if (isInTheWay()) {
+        said << QStringLiteral("ติดขัด");
+    }
+    widget()->setAccessibleDescription(said.join(QLatin1Char(' ')));
 }
 
 void BoxView::markRefused() {
     refused_ = true;
     paintState();
+}
+
+void BoxView::showProblem(const QString& message) {
+    ControlView::showProblem(message);
+    paintState();
+}
+
+void BoxView::focusCame() {
+    fresh_ = true;
+    keepFigure();
+}
+
+bool BoxView::giveBack() {
+    if (control()->locked() || control()->reading() == before_) {
+        return false;
+    }
+    door().act([this](User& user) {
+        if (control()->kind() == ControlKind::MaskedBox) {
+            user.edit(static_cast<MaskedBox&>(*control()), before_);
+        } else {
+            user.edit(static_cast<TextBox&>(*control()), before_);
+        }
+    });
+    return true;
 }
 
 void BoxView::touched() {
@@ -92,6 +135,9 @@ bool BoxView::keyPressed(QKeyEvent& event) {
     if (ControlView::keyPressed(event)) {
         return true;
     }
+    if (event.key() == Qt::Key_Escape && giveBack()) {
+        return true;
+    }
     if (!event.text().isEmpty()) {
         touched(); // also Backspace and Delete
     }
@@ -123,7 +169,7 @@ bool BoxView::otherEvent(QEvent& event) {
 
 TextView::TextView(Control& control, QLineEdit& edit, UserDoor& door)
     : BoxView(control, edit, door), edit_(edit) {
-    if (box().textKind() == TextKind::Amount) {
+    if (isAmount()) {
         edit.setAlignment(Qt::AlignRight);
     }
     connect(&edit, &QLineEdit::textEdited, this, &TextView::edited);
@@ -145,24 +191,23 @@ void TextView::paintText() {
     if (edit_.text() != text) {
         edit_.setText(text);
     }
-    if (box().textKind() == TextKind::Amount) {
+    if (isAmount()) {
         // The points of amounts with and without brackets stand below one another.
         const int room =
             text.endsWith(QLatin1Char(')')) ? 0 : edit_.fontMetrics().horizontalAdvance(QLatin1Char(')'));
         edit_.setTextMargins(0, 0, room, 0);
-        if (isFirstTouch()) {
+        if (isFirstTouch() && box().hasFocus()) {
             edit_.selectAll();
         }
     }
     if (isFirstTouch()) {
-        before_ = box().text(); // a rule shows the figure plain when the focus comes
+        keepFigure(); // a rule shows the figure plain when the focus comes
     }
 }
 
 void TextView::focusCame() {
-    setFresh(true);
-    before_ = box().text();
-    if (box().textKind() == TextKind::Amount) {
+    BoxView::focusCame();
+    if (isAmount()) {
         edit_.selectAll();
     }
 }
@@ -182,12 +227,34 @@ bool TextView::hasRoomFor(const QString& text) const {
            <= static_cast<std::size_t>(box().maxLength());
 }
 
-bool TextView::keyPressed(QKeyEvent& event) {
-    if (event.key() == Qt::Key_Escape && !box().locked() && box().text() != before_) {
-        door().act([this](User& user) { user.edit(box(), before_); });
-        return true;
+bool TextView::isLike(const ControlView& other) const {
+    const auto* view = qobject_cast<const TextView*>(&other);
+    return view != nullptr && view->isAmount() == isAmount();
+}
+
+bool TextView::arrowPressed(const QKeyEvent& event) {
+    // In a text Ctrl moves by words; a column of amounts has none.
+    const bool ctrl = (event.modifiers() & ~Qt::KeypadModifier) == Qt::ControlModifier;
+    const bool plain = (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    switch (event.key()) {
+    case Qt::Key_Up:
+        if (plain) door().moveAcross(box(), Direction::Up);
+        return plain;
+    case Qt::Key_Down:
+        if (plain) door().moveAcross(box(), Direction::Down);
+        return plain;
+    case Qt::Key_Left:
+        if (ctrl) door().moveAcross(box(), Direction::Left);
+        return ctrl;
+    case Qt::Key_Right:
+        if (ctrl) door().moveAcross(box(), Direction::Right);
+        return ctrl;
+    default: return false;
     }
-    return BoxView::keyPressed(event);
+}
+
+bool TextView::keyPressed(QKeyEvent& event) {
+    return (isAmount() && arrowPressed(event)) || BoxView::keyPressed(event);
 }
 
 bool TextView::mousePressed(QMouseEvent& event) {
@@ -202,7 +269,7 @@ bool TextView::mousePressed(QMouseEvent& event) {
         return true;
     }
     // The press that comes to an amount leaves it selected as a whole.
-    const bool selects = came && event.button() == Qt::LeftButton && box().textKind() == TextKind::Amount;
+    const bool selects = came && event.button() == Qt::LeftButton && isAmount();
     if (!selects) {
         setFresh(false);
     }
@@ -210,7 +277,8 @@ bool TextView::mousePressed(QMouseEvent& event) {
 }
 
 void TextView::edited(const QString& text) {
-    const std::string typed = text.toStdString();
+    const QString plain = isAmount() ? plainFigure(text) : text;
+    const std::string typed = plain.toStdString();
     // Where the caret stands once the text before it has been made regular.
     const std::string before = text.left(edit_.cursorPosition()).toStdString();
     const auto caret = static_cast<int>(shown(acceptedText(box(), before)).size());
@@ -220,7 +288,7 @@ void TextView::edited(const QString& text) {
     }
     if (edit_.text() != shown(box().text())) {
         paintText();
-        edit_.setCursorPosition(caret);
+        edit_.setCursorPosition(plain == text ? caret : static_cast<int>(edit_.text().size()));
     }
 }
 
@@ -302,7 +370,10 @@ void DateView::paint(Aspect aspect) {
     }
 }
 
-void DateView::focusCame() { edit_.goToGap(); }
+void DateView::focusCame() {
+    BoxView::focusCame();
+    edit_.goToGap();
+}
 
 bool DateView::mousePressed(QMouseEvent& event) {
     if (ControlView::mousePressed(event)) {

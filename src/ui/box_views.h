@@ -20,6 +20,8 @@ class BoxView : public ControlView {
     using ControlView::ControlView;
     void paint(Aspect aspect) override;
     void markRefused() override;
+    void showProblem(const QString& message) override;
+    void focusCame() override;
 
   protected:
     bool keyPressed(QKeyEvent& event) override;
@@ -29,14 +31,19 @@ class BoxView : public ControlView {
     [[nodiscard]] virtual bool hasRoomFor(const QString& /*text*/) const { return true; }
     [[nodiscard]] bool isFirstTouch() const { return fresh_; }
     void setFresh(bool fresh) { fresh_ = fresh; }
+    /// Takes what the box holds now for what Esc gives back.
+    void keepFigure() { before_ = control()->reading(); }
     /// The ground and border of the box as the program has set it.
     void paintState();
 
   private:
     bool characterTyped(const QKeyEvent& event);
     [[nodiscard]] std::optional<QString> passed(const QString& text);
+    void describe();
     void touched();
+    bool giveBack();
 
+    std::string before_;   // what the box held before the person touched it
     bool fresh_ = false;   // nothing was done to the box since the focus came
     bool refused_ = false; // shown as refused until the next keystroke
     bool feeding_ = false; // an event of our own making is on its way to the widget
@@ -49,6 +56,7 @@ class TextView : public BoxView {
     TextView(Control& control, QLineEdit& edit, UserDoor& door);
     void paint(Aspect aspect) override;
     void focusCame() override;
+    [[nodiscard]] bool isLike(const ControlView& other) const override;
 
   protected:
     bool keyPressed(QKeyEvent& event) override;
@@ -57,11 +65,12 @@ class TextView : public BoxView {
 
   private:
     [[nodiscard]] TextBox& box() const { return static_cast<TextBox&>(*control()); }
+    [[nodiscard]] bool isAmount() const { return box().textKind() == TextKind::Amount; }
+    bool arrowPressed(const QKeyEvent& event);
     void edited(const QString& text);
     void paintText();
 
     QLineEdit& edit_;
-    std::string before_; // what the box held before the person touched it
 };
 
 /// A box of several lines; Ctrl+Enter breaks a line, because Enter moves on.

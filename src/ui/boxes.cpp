@@ -1,14 +1,18 @@
 #include "ui/boxes.h"
 
+#include "ui/type.h"
+
 #include <QDialogButtonBox>
-#include <QFormLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QScreen>
 #include <QSpinBox>
 
 #include <algorithm>
+#include <initializer_list>
 #include <vector>
 
 namespace lodge {
@@ -19,6 +23,7 @@ namespace {
 constexpr int widestText = 720;
 constexpr int leastText = 260;
 constexpr int leastButton = 96;
+constexpr int leastLine = 420;
 constexpr int padding = 16;
 /// The toolkit indents the text of its boxes.
 constexpr int labelIndent = 16;
@@ -56,7 +61,7 @@ QMessageBox::ButtonRole roleOf(Answer answer) {
 QDialogButtonBox* okAndCancel(QDialog& dialog) {
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
     for (QAbstractButton* button : buttons->buttons()) {
-        button->setMinimumWidth(leastButton);
+        button->setMinimumWidth(zoomed(leastButton));
     }
     QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
     QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
@@ -103,17 +108,17 @@ BoxWindow::BoxWindow(const Box& box, QWidget* parent) : QMessageBox(parent) {
 
     if (auto* label = findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {
         const int natural = label->fontMetrics().size(0, text()).width() + 2;
-        label->setWordWrap(natural > widestText);
+        label->setWordWrap(natural > zoomed(widestText));
         label->setContentsMargins(4, 8, 4, 8);
         const int room = natural + label->contentsMargins().left() + label->contentsMargins().right();
-        label->setFixedWidth(std::clamp(room + labelIndent, leastText, widestText));
+        label->setFixedWidth(std::clamp(room + labelIndent, zoomed(leastText), zoomed(widestText)));
     }
 }
 
 QPushButton* BoxWindow::add(Answer answer) {
     QPushButton* button = addButton(captionOf(answer), roleOf(answer));
     button->setProperty("answer", static_cast<int>(answer));
-    button->setMinimumWidth(leastButton);
+    button->setMinimumWidth(zoomed(leastButton));
     return button;
 }
 
@@ -131,7 +136,7 @@ InputWindow::InputWindow(const InputBox& box, QWidget* parent)
     prompt->setWordWrap(true);
     prompt->setBuddy(line_);
     line_->setAccessibleName(prompt->text());
-    line_->setMinimumWidth(420);
+    line_->setMinimumWidth(zoomed(leastLine));
     line_->selectAll();
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(padding, padding, padding, padding);
@@ -144,19 +149,43 @@ InputWindow::InputWindow(const InputBox& box, QWidget* parent)
 std::string InputWindow::text() const { return line_->text().toStdString(); }
 
 PagesWindow::PagesWindow(QWidget* parent)
-    : QDialog(parent), from_(pageBox(PageRange().from, QStringLiteral("จากหน้า"))),
+    : QDialog(parent), all_(new QRadioButton(QStringLiteral("ทั้งหมด"))),
+      some_(new QRadioButton(QStringLiteral("จากหน้า"))),
+      from_(pageBox(PageRange().from, QStringLiteral("จากหน้า"))),
       to_(pageBox(PageRange().to, QStringLiteral("ถึงหน้า"))) {
     setWindowTitle(QStringLiteral("พิมพ์"));
-    auto* rows = new QFormLayout(this);
+    auto* range = new QHBoxLayout;
+    range->setSpacing(8);
+    auto* between = new QLabel(QStringLiteral("ถึงหน้า"));
+    for (QWidget* part : std::initializer_list<QWidget*>{some_, from_, between, to_}) {
+        range->addWidget(part);
+    }
+    range->addStretch(1);
+    auto* note = new QLabel(QStringLiteral("หน้า 1 ถึง 8 คือแบบ ก.ข.ค.77  หน้า 9 และ 10 คือใบแนบ ซึ่งพิมพ์ไปด้วยกัน"));
+    note->setProperty("type", QByteArray("tag"));
+    auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(padding, padding, padding, padding);
-    rows->setVerticalSpacing(12);
-    rows->addRow(QStringLiteral("จากหน้า"), from_);
-    rows->addRow(QStringLiteral("ถึงหน้า"), to_);
-    rows->addRow(okAndCancel(*this));
+    rows->setSpacing(12);
+    rows->addWidget(all_);
+    rows->addLayout(range);
+    rows->addWidget(note);
+    rows->addWidget(okAndCancel(*this));
+    all_->setChecked(true);
+    all_->setFocus();
     // The range cannot be turned around: each end pushes the other along.
     connect(from_, &QSpinBox::valueChanged, to_, &QSpinBox::setMinimum);
+    for (const QSpinBox* box : {from_, to_}) {
+        connect(box, &QSpinBox::valueChanged, some_, [this] { some_->setChecked(true); });
+    }
+    connect(some_, &QRadioButton::clicked, from_, [this] {
+        from_->setFocus();
+        from_->selectAll();
+    });
 }
 
-PageRange PagesWindow::range() const { return {.from = from_->value(), .to = to_->value()}; }
+PageRange PagesWindow::range() const {
+    constexpr PageRange whole{.from = 0, .to = 0};
+    return all_->isChecked() ? whole : PageRange{.from = from_->value(), .to = to_->value()};
+}
 
 } // namespace lodge

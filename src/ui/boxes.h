@@ -7,6 +7,7 @@
 #include <QMessageBox>
 
 class QLineEdit;
+class QRadioButton;
 class QSpinBox;
 
 namespace lodge {
@@ -39,7 +40,7 @@ class InputWindow : public QDialog {
     QLineEdit* line_;
 };
 
-/// Asks which pages to print.
+/// Asks which pages to print: all, or a range.
 class PagesWindow : public QDialog {
     Q_OBJECT
 
@@ -48,6 +49,8 @@ class PagesWindow : public QDialog {
     [[nodiscard]] PageRange range() const;
 
   private:
+    QRadioButton* all_;
+    QRadioButton* some_;
     QSpinBox* from_;
     QSpinBox* to_;
 };

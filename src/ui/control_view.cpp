@@ -52,6 +52,17 @@ QString captionText(const std::string& caption) {
     return text.replace(QLatin1Char('&'), QStringLiteral("&&"));
 }
 
+bool canRestOn(const Control& control) {
+    return control.takesFocus() && control.isShown() && control.isOpen() && !control.locked();
+}
+
+QString nameOf(const QWidget& widget) {
+    const auto* button = qobject_cast<const QAbstractButton*>(&widget);
+    const bool named = !widget.accessibleName().isEmpty() || button == nullptr;
+    return named ? widget.accessibleName()
+                 : button->text().replace(QStringLiteral("&&"), QStringLiteral("&"));
+}
+
 MouseGesture gestureOf(const QMouseEvent& event) {
     return {.button = event.button() == Qt::RightButton ? MouseButton::Right : MouseButton::Left,
         .shift = event.modifiers().testFlag(Qt::ShiftModifier),
@@ -81,12 +92,21 @@ void ControlView::paint(Aspect aspect) {
     }
 }
 
+void ControlView::showProblem(const QString& message) {
+    if (message != problem_) {
+        problem_ = message;
+        widget_->setToolTip(message);
+    }
+}
+
 void ControlView::setState(const char* state) {
     const QByteArray next(state);
     if (widget_->property("state").toByteArray() != next) {
         widget_->setProperty("state", next);
+        const QFont font = widget_->font();
         widget_->style()->unpolish(widget_);
         widget_->style()->polish(widget_);
+        widget_->setFont(font); // which a style sheet takes away
     }
 }
 

@@ -8,6 +8,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QString>
 #include <QWidget>
 
 #include <memory>
@@ -33,8 +34,12 @@ class ControlView : public QObject {
     void paintAll();
     /// The focus has come to the control.
     virtual void focusCame() {}
+    /// Whether arrow keys lead from the one to the other: a view of the same kind of field.
+    [[nodiscard]] virtual bool isLike(const ControlView& /*other*/) const { return false; }
     /// A rule refused what the box holds and sent the person back to it.
     virtual void markRefused() {}
+    /// What is in the way of filing at this control; an empty text for nothing.
+    virtual void showProblem(const QString& message);
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -55,6 +60,7 @@ class ControlView : public QObject {
     /// Watches a part of the widget that gets the mouse in its place.
     void watchPart(QWidget& part) { part.installEventFilter(this); }
     void setState(const char* state);
+    [[nodiscard]] bool isInTheWay() const { return !problem_.isEmpty(); }
 
   private:
     bool moveOnKey(const QKeyEvent& event);
@@ -63,6 +69,7 @@ class ControlView : public QObject {
     Control* control_;
     QPointer<QWidget> widget_;
     UserDoor& door_;
+    QString problem_; // in the way of filing
 };
 
 /// The view that suits the control; nothing when the widget is of a kind that cannot show it.
@@ -72,6 +79,10 @@ class ControlView : public QObject {
 [[nodiscard]] QString widgetName(const Control& control);
 /// A caption as a toolkit caption: its line breaks, and "&" as it stands.
 [[nodiscard]] QString captionText(const std::string& caption);
+/// Whether a person could put the focus there, its form apart.
+[[nodiscard]] bool canRestOn(const Control& control);
+/// What a screen reader calls a widget: the name it was given, or else its caption.
+[[nodiscard]] QString nameOf(const QWidget& widget);
 [[nodiscard]] MouseGesture gestureOf(const QMouseEvent& event);
 
 } // namespace lodge

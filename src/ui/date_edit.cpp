@@ -8,6 +8,8 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QPainter>
+#include <QStyleOptionFrame>
 
 #include <algorithm>
 #include <array>
@@ -194,6 +196,18 @@ void DateEdit::mouseReleaseEvent(QMouseEvent* event) {
     if (!hasSelectedText() && placeAt(cursorPosition()) > digits_.size()) {
         goToGap();
     }
+}
+
+void DateEdit::paintEvent(QPaintEvent* event) {
+    if (isEnabled() || !digits_.isEmpty()) {
+        QLineEdit::paintEvent(event);
+        return;
+    }
+    // A closed box asks for nothing, so it shows no gaps to fill.
+    QStyleOptionFrame panel;
+    initStyleOption(&panel);
+    QPainter painter(this);
+    style()->drawPrimitive(QStyle::PE_PanelLineEdit, &panel, &painter, this);
 }
 
 void DateEdit::contextMenuEvent(QContextMenuEvent* event) {

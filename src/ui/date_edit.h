@@ -30,6 +30,7 @@ class DateEdit : public QLineEdit {
     void inputMethodEvent(QInputMethodEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
   private:
     /// Digits before the caret, and the digits that the selection covers.

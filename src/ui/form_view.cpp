@@ -1,9 +1,12 @@
 #include "ui/form_view.h"
 
 #include "controls/label.h"
+#include "state/field_names.h"
 #include "ui/boxes.h"
 #include "ui/layouts.h"
 #include "ui/link_label.h"
+#include "ui/tie_tag.h"
+#include "ui/veil.h"
 
 #include <QDialog>
 #include <QHash>
@@ -11,6 +14,8 @@
 #include <QMainWindow>
 #include <QMouseEvent>
 #include <QShortcut>
+
+#include <optional>
 
 namespace lodge {
 
@@ -20,6 +25,24 @@ namespace {
 constexpr const char* blankLayout = "blank";
 /// What a widget asks for that shows the caption of its form.
 constexpr const char* ofTheForm = "form";
+
+QRect placeIn(const QWidget& root, const ControlView& view) {
+    return {view.widget()->mapTo(&root, QPoint()), view.widget()->size()};
+}
+
+/// How far the other place is away in that direction, nothing when it does not lie there: up and down it must
+/// stand in the same column, left and right on the same line.
+std::optional<int> distance(const QRect& from, const QRect& other, Direction where) {
+    const bool upright = where == Direction::Up || where == Direction::Down;
+    const bool aligned = upright ? from.left() <= other.center().x() && other.center().x() <= from.right()
+                                 : from.top() <= other.center().y() && other.center().y() <= from.bottom();
+    const QPoint way = other.center() - from.center();
+    const int far = where == Direction::Up     ? -way.y()
+                    : where == Direction::Down ? way.y()
+                    : where == Direction::Left ? -way.x()
+                                               : way.x();
+    return aligned && far > 0 ? std::optional(far) : std::nullopt;
+}
 
 std::unique_ptr<QWidget> layoutOf(const Form& form) {
     std::unique_ptr<QWidget> root = makeLayout(form.name());
@@ -36,6 +59,9 @@ FormView::FormView(Form& form, UserDoor& door) : form_(&form), door_(door), root
         view->paintAll();
     }
     paintForm();
+    if (!isWindow()) {
+        new Veil(*root_); // the page owns it
+    }
     root_->installEventFilter(this);
 }
 
@@ -70,9 +96,9 @@ void FormView::bindControls() {
 
 void FormView::bindKeys() {
     for (const auto& [control, view] : byControl_) {
-        const QString key = view->widget()->property("keyHint").toString();
-        if (!key.isEmpty()) {
-            auto* shortcut = new QShortcut(QKeySequence(key), view->widget());
+        const QString keys = view->widget()->property("keys").toString();
+        for (const QKeySequence& key : QKeySequence::listFromString(keys)) {
+            auto* shortcut = new QShortcut(key, view->widget());
             connect(shortcut, &QShortcut::activated, view, [this, view = view] {
                 if (view->control() != nullptr) {
                     door_.press(*view->control());
@@ -92,6 +118,32 @@ void FormView::bindLinks() {
 ControlView* FormView::find(const Control& control) const {
     const auto found = byControl_.find(&control);
     return found == byControl_.end() ? nullptr : found->second;
+}
+
+ControlView* FormView::neighbour(const Control& from, Direction where) const {
+    const ControlView* start = find(from);
+    ControlView* nearest = nullptr;
+    int least = 0;
+    for (const std::unique_ptr<ControlView>& view : views_) {
+        if (view.get() == start || !view->isLike(*start) || !canRestOn(*view->control())) {
+            continue;
+        }
+        const std::optional<int> far = distance(placeIn(*root_, *start), placeIn(*root_, *view), where);
+        if (far && (nearest == nullptr || *far < least)) {
+            nearest = view.get();
+            least = *far;
+        }
+    }
+    return nearest;
+}
+
+void FormView::paintAgain() {
+    for (const std::unique_ptr<ControlView>& view : views_) {
+        if (view->control() != nullptr) {
+            view->paint(Aspect::Text);
+            view->paint(Aspect::Caption);
+        }
+    }
 }
 
 void FormView::paint(Control& control, Aspect aspect) {
@@ -119,6 +171,28 @@ void FormView::paintCaptions(const std::string& of, const std::string& caption) 
     for (QWidget* widget : root_->findChildren<QWidget*>()) {
         if (widget->property("captionOf").toString() == name) {
             widget->setProperty("text", shownText(caption));
+        }
+    }
+}
+
+void FormView::readOthers(ReturnState& state) {
+    for (TieTag* tie : root_->findChildren<TieTag*>()) {
+        tie->readOthers([&](const QString& name) -> std::optional<std::string> {
+            // The losses of a headquarters company stand in its attachment instead.
+            if (state.blnIHQPage && name.startsWith(QLatin1String("strFldPage6_11"))) {
+                return std::nullopt;
+            }
+            const auto value = findStateValue(state, name.toStdString());
+            return value ? std::optional(value->get()) : std::nullopt;
+        });
+    }
+}
+
+void FormView::showProblems(const std::map<std::string, QString>& messages) {
+    for (const std::unique_ptr<ControlView>& view : views_) {
+        if (view->control() != nullptr && view->widget() != nullptr) {
+            const auto found = messages.find(view->control()->fullName());
+            view->showProblem(found == messages.end() ? QString() : found->second);
         }
     }
 }

@@ -2,12 +2,15 @@
 #pragma once
 
 #include "controls/form.h"
+#include "state/return_state.h"
 #include "ui/control_view.h"
 
 #include <QPointer>
 #include <QWidget>
 
+#include <map>
 #include <memory>
+#include <string>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
@@ -29,13 +32,22 @@ class FormView : public QObject {
     [[nodiscard]] bool isWindow() const;
     /// The view on a control, nullptr for one without a widget.
     [[nodiscard]] ControlView* find(const Control& control) const;
+    /// The nearest view of the same kind that a person could go to from there, nullptr when there is none: an
+    /// amount in the same column, a card of the chooser.
+    [[nodiscard]] ControlView* neighbour(const Control& from, Direction where) const;
     /// The name of the control that had the focus last, to come back to.
     [[nodiscard]] const std::string& lastFocus() const { return lastFocus_; }
     void noteFocus(const Control& control) { lastFocus_ = control.fullName(); }
 
     void paint(Control& control, Aspect aspect);
+    /// Paints everything anew, for another theme or zoom.
+    void paintAgain();
     /// Shows the caption of the form and whether it is open.
     void paintForm();
+    /// Has the page compare its figures with those that its other pages have in the return.
+    void readOthers(ReturnState& state);
+    /// Marks the fields at which something is in the way of filing, by their names, and unmarks all others.
+    void showProblems(const std::map<std::string, QString>& messages);
     /// The form has gone: nothing of it is touched any more.
     void letGo();
 

@@ -4,10 +4,26 @@
 
 namespace lodge {
 
-LinkLabel::LinkLabel(const QString& text, const QString& target) : QLabel(text), target_(target) {
+LinkLabel::LinkLabel(QWidget* parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
     setProperty("role", QByteArray("link"));
+    setProperty("type", QByteArray("label"));
     setCursor(Qt::PointingHandCursor);
+}
+
+LinkLabel::LinkLabel(const QString& text, const QString& target) : LinkLabel() {
+    setText(text);
+    setTarget(target);
+}
+
+bool LinkLabel::event(QEvent* event) {
+    // Whatever font it is given, a link is told from the texts around it by more than its colour.
+    if (event->type() == QEvent::FontChange && !font().underline()) {
+        QFont underlined = font();
+        underlined.setUnderline(true);
+        setFont(underlined);
+    }
+    return QLabel::event(event);
 }
 
 void LinkLabel::mousePressEvent(QMouseEvent* event) { event->setAccepted(event->button() == Qt::LeftButton); }

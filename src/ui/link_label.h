@@ -8,16 +8,21 @@ namespace lodge {
 class LinkLabel : public QLabel {
     Q_OBJECT
 
+    /// The button of the chooser that opens the item.
+    Q_PROPERTY(QString target READ target WRITE setTarget)
+
   public:
-    /// `target` is the button of the chooser that opens the item.
+    explicit LinkLabel(QWidget* parent = nullptr);
     LinkLabel(const QString& text, const QString& target);
 
     [[nodiscard]] const QString& target() const { return target_; }
+    void setTarget(const QString& target) { target_ = target; }
 
   signals:
     void followed();
 
   protected:
+    bool event(QEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
 

@@ -1,5 +1,7 @@
 #include "ui/list_views.h"
 
+#include "ui/type.h"
+
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QSignalBlocker>
@@ -69,7 +71,7 @@ void ComboView::paint(Aspect aspect) {
             widest = std::max(widest, combo_.fontMetrics().horizontalAdvance(shown(item)));
         }
         // Open, the list is as wide as its longest entry; closed, it keeps to its place.
-        combo_.view()->setMinimumWidth(widest + besideEntry);
+        combo_.view()->setMinimumWidth(widest + zoomed(besideEntry));
         combo_.setCurrentIndex(items.selected());
     } else if (aspect == Aspect::Selection) {
         combo_.setCurrentIndex(items.selected());
@@ -108,7 +110,7 @@ GridView::GridView(Control& control, QTableWidget& table, UserDoor& door)
     table.horizontalHeader()->setProperty("type", "label");
     table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     table.verticalHeader()->hide();
-    table.verticalHeader()->setDefaultSectionSize(tableRow);
+    table.verticalHeader()->setDefaultSectionSize(zoomed(tableRow));
     connect(&table, &QTableWidget::cellClicked, this, [this](int row, int /*column*/) { pick(row); });
 }
 

@@ -1,6 +1,7 @@
 #include "ui/lodge_style.h"
 
 #include "ui/tick_box.h"
+#include "ui/type.h"
 
 #include <QAbstractItemView>
 #include <QFocusFrame>
@@ -43,24 +44,29 @@ Paint tickPaint(const QPalette& palette, const QStyle::State state) {
     return {fill, fill, palette.color(QPalette::Light)};
 }
 
+/// Has the painter draw on the square of the design whatever the size of the mark; gives the room in its
+/// border.
+QRectF beginMark(const QStyleOption& option, QPainter& painter) {
+    painter.translate(option.rect.topLeft());
+    painter.scale(option.rect.width() / double(indicatorSize), option.rect.height() / double(indicatorSize));
+    return QRectF(0, 0, indicatorSize, indicatorSize).adjusted(0.75, 0.75, -0.75, -0.75);
+}
+
 void drawTick(const QStyleOption& option, QPainter& painter) {
     const Paint paint = tickPaint(option.palette, option.state);
-    const QRectF box = QRectF(option.rect).adjusted(0.75, 0.75, -0.75, -0.75);
+    const QRectF box = beginMark(option, painter);
     painter.setPen(QPen(paint.border, 1.5));
     painter.setBrush(paint.ground);
     painter.drawRoundedRect(box, 3, 3);
     if (paint.mark.isValid()) {
-        const QPointF corner = option.rect.topLeft();
-        QPen pen(paint.mark, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
-        painter.setPen(pen);
-        painter.drawPolyline(
-            QPolygonF({corner + QPointF(4, 8.4), corner + QPointF(6.9, 11.3), corner + QPointF(12, 5.2)}));
+        painter.setPen(QPen(paint.mark, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.drawPolyline(QPolygonF({QPointF(4, 8.4), QPointF(6.9, 11.3), QPointF(12, 5.2)}));
     }
 }
 
 void drawChoice(const QStyleOption& option, QPainter& painter) {
     Paint paint = tickPaint(option.palette, option.state);
-    const QRectF ring = QRectF(option.rect).adjusted(0.75, 0.75, -0.75, -0.75);
+    const QRectF ring = beginMark(option, painter);
     painter.setPen(QPen(paint.border, 1.5));
     painter.setBrush(option.palette.color(QPalette::Base));
     painter.drawEllipse(ring);
@@ -106,7 +112,7 @@ Paint buttonPaint(const QStyleOptionButton& option, const QWidget* widget) {
 void drawButtonLabel(const QStyleOptionButton& button, const QColor& ink, QPainter& painter) {
     const bool hasIcon = !button.icon.isNull();
     const int icon = hasIcon ? button.iconSize.width() : 0;
-    const int gap = hasIcon && !button.text.isEmpty() ? iconGap : 0;
+    const int gap = hasIcon && !button.text.isEmpty() ? zoomed(iconGap) : 0;
     const int text = button.fontMetrics.size(Qt::TextShowMnemonic, button.text).width();
     int x = button.rect.left() + std::max(0, (button.rect.width() - icon - gap - text) / 2);
     if (hasIcon) {
@@ -205,7 +211,7 @@ void LodgeStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
     painter->setBrush(palette.color(open ? QPalette::Active : QPalette::Disabled, QPalette::Base));
     const qreal inset = border / 2;
     painter->drawRoundedRect(QRectF(combo->rect).adjusted(inset, inset, -inset, -inset), 3, 3);
-    const QPointF tip = QRectF(combo->rect).center() + QPointF(combo->rect.width() / 2.0 - 14, 2);
+    const QPointF tip = QRectF(combo->rect).center() + QPointF(combo->rect.width() / 2.0 - zoomed(14), 2);
     painter->setPen(QPen(palette.color(open ? QPalette::LinkVisited : QPalette::Mid), 1.5, Qt::SolidLine,
         Qt::RoundCap, Qt::RoundJoin));
     painter->setBrush(Qt::NoBrush);
@@ -217,7 +223,7 @@ QRect LodgeStyle::subControlRect(
     ComplexControl control, const QStyleOptionComplex* option, SubControl part, const QWidget* widget) const {
     const QRect rect = QProxyStyle::subControlRect(control, option, part, widget);
     const bool entry = control == CC_ComboBox && part == SC_ComboBoxEditField;
-    return entry ? rect.adjusted(comboIndent, 0, 0, 0) : rect;
+    return entry ? rect.adjusted(zoomed(comboIndent), 0, 0, 0) : rect;
 }
 
 int LodgeStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
@@ -225,15 +231,15 @@ int LodgeStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
     case PM_IndicatorWidth:
     case PM_IndicatorHeight:
     case PM_ExclusiveIndicatorWidth:
-    case PM_ExclusiveIndicatorHeight: return indicatorSize;
+    case PM_ExclusiveIndicatorHeight: return zoomed(indicatorSize);
     case PM_CheckBoxLabelSpacing:
-    case PM_RadioButtonLabelSpacing: return 8;
+    case PM_RadioButtonLabelSpacing: return zoomed(8);
     case PM_FocusFrameHMargin:
     case PM_FocusFrameVMargin: return ringGap + ringWidth;
     case PM_ButtonShiftHorizontal:
     case PM_ButtonShiftVertical: return 0;
     case PM_SmallIconSize:
-    case PM_ButtonIconSize: return 20;
+    case PM_ButtonIconSize: return zoomed(20);
     case PM_ScrollBarExtent: return 12;
     default: return QProxyStyle::pixelMetric(metric, option, widget);
     }
@@ -244,12 +250,12 @@ QSize LodgeStyle::sizeFromContents(
     if (type == CT_PushButton) {
         const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
         const bool hasIcon = button != nullptr && !button->icon.isNull();
-        return {size.width() + 2 * buttonPadding + (hasIcon ? iconGap : 0),
-            std::max(size.height(), buttonHeight)};
+        return {size.width() + zoomed(2 * buttonPadding + (hasIcon ? iconGap : 0)),
+            std::max(size.height(), zoomed(buttonHeight))};
     }
     QSize fitting = QProxyStyle::sizeFromContents(type, option, size, widget);
     if (type == CT_ComboBox) {
-        fitting.setHeight(fieldHeight);
+        fitting.setHeight(zoomed(fieldHeight));
     }
     return fitting;
 }

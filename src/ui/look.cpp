@@ -1,6 +1,7 @@
 #include "ui/look.h"
 
 #include "ui/lodge_style.h"
+#include "ui/measures.h"
 #include "ui/type.h"
 
 #include <QAbstractButton>
@@ -10,12 +11,31 @@
 #include <QPainter>
 #include <QRegularExpression>
 
+#include <algorithm>
+
 // The resources lie in a library, which nothing else would make known.
 static void initResources() { Q_INIT_RESOURCE(lodge_ui); }
 
 namespace lodge {
 
 namespace {
+
+/// The measures of the style sheet at a zoom.
+QString zoomedSheet(const QString& sheet, double zoom) {
+    static const QRegularExpression measure(QStringLiteral("(?:\\{(\\d+)-(\\d+)\\}|\\b(\\d+))px"));
+    constexpr int widestLine = 3;
+    QString zoomed;
+    qsizetype at = 0;
+    for (auto matches = measure.globalMatch(sheet); matches.hasNext();) {
+        const QRegularExpressionMatch match = matches.next();
+        const int whole = match.captured(1).toInt() + match.captured(3).toInt();
+        const int drawn = whole <= widestLine ? whole : qRound(whole * zoom);
+        zoomed += sheet.mid(at, match.capturedStart() - at);
+        zoomed += QStringLiteral("%1px").arg(drawn - match.captured(2).toInt());
+        at = match.capturedEnd();
+    }
+    return zoomed + sheet.mid(at);
+}
 
 QString styleSheetOf(const Theme& theme) {
     QFile file(QStringLiteral(":/ui/style.qss"));
@@ -61,8 +81,6 @@ QIcon iconOf(const QString& name, const QColor& colour, const QColor& closed) {
         const QString path = QStringLiteral(":/ui/icons/%1@%2.png").arg(name).arg(scale);
         QPixmap open = tinted(path, colour);
         QPixmap shut = tinted(path, closed);
-        open.setDevicePixelRatio(scale);
-        shut.setDevicePixelRatio(scale);
         icon.addPixmap(open, QIcon::Normal);
         icon.addPixmap(shut, QIcon::Disabled);
     }
@@ -71,7 +89,7 @@ QIcon iconOf(const QString& name, const QColor& colour, const QColor& closed) {
 
 Look::Look(QApplication& application) : Look(application, themeOfDesktop(QApplication::palette())) {}
 
-Look::Look(QApplication& application, const Theme& theme) : theme_(theme) {
+Look::Look(QApplication& application, const Theme& theme) : application_(application), theme_(&theme) {
     initResources();
     for (const Qt::UIEffect effect : {Qt::UI_AnimateCombo, Qt::UI_AnimateMenu, Qt::UI_AnimateTooltip,
              Qt::UI_FadeMenu, Qt::UI_FadeTooltip, Qt::UI_AnimateToolBox}) {
@@ -79,34 +97,88 @@ Look::Look(QApplication& application, const Theme& theme) : theme_(theme) {
     }
     // NOLINTBEGIN(clang-analyzer-cplusplus.NewDeleteLeaks): the application owns its style.
     QApplication::setStyle(new LodgeStyle);
-    QApplication::setPalette(paletteOf(theme));
     // NOLINTEND(clang-analyzer-cplusplus.NewDeleteLeaks)
-    QApplication::setFont(fontOf(typeOf(QStringLiteral("field"))));
-    application.setStyleSheet(styleSheetOf(theme));
+    wear();
+    application.installEventFilter(this);
     connect(&application, &QApplication::focusChanged, this,
         [this](QWidget* /*old*/, QWidget* now) { moveRing(now); });
 }
 
+void Look::wear() {
+    wearing_ = true;
+    QApplication::setFont(fontOf(typeOf(QStringLiteral("field")), zoom_));
+    QApplication::setPalette(paletteOf(*theme_));
+    application_.setStyleSheet(zoomedSheet(styleSheetOf(*theme_), zoom_));
+    wearing_ = false;
+}
+
+void Look::setZoom(double zoom) {
+    if (zoom != zoom_) {
+        zoom_ = zoom;
+        wear();
+        emit changed();
+    }
+}
+
+double Look::zoomAfter(int steps) const {
+    const auto here = std::find(zoomLevels.begin(), zoomLevels.end(), zoom_);
+    const auto at = std::clamp<std::ptrdiff_t>(
+        here - zoomLevels.begin() + steps, 0, static_cast<std::ptrdiff_t>(zoomLevels.size()) - 1);
+    return zoomLevels.at(static_cast<std::size_t>(at));
+}
+
+void Look::follow(const QPalette& desktop) {
+    const Theme& theme = themeOfDesktop(desktop);
+    const bool another = &theme != theme_;
+    theme_ = &theme;
+    wear();
+    if (another) {
+        emit changed();
+    }
+}
+
+bool Look::eventFilter(QObject* watched, QEvent* event) {
+    if (wearing_) {
+        return false;
+    }
+    if (event->type() == QEvent::ApplicationPaletteChange && watched == &application_) {
+        const QPalette palette = QApplication::palette();
+        if (palette.color(QPalette::Window) != toColor(theme_->ground)) {
+            follow(palette); // not ours: the desktop's
+        }
+    } else if (event->type() == QEvent::ThemeChange && watched->isWindowType()) {
+        // The desktop's palette stands behind our own, which goes for the moment of a look.
+        wearing_ = true;
+        QApplication::setPalette(QPalette());
+        const QPalette desktop = QApplication::palette();
+        wearing_ = false;
+        follow(desktop);
+    }
+    return false;
+}
+
 void Look::dress(QWidget& root) const {
+    const QSize side = zoomed(QSize(iconSize, iconSize));
+    zoomMeasures(root, zoom_);
     QList<QWidget*> widgets = root.findChildren<QWidget*>();
     widgets << &root;
     for (QWidget* widget : widgets) {
         const QVariant type = widget->property("type");
         if (type.isValid()) {
             const Type& use = typeOf(type.toString());
-            widget->setFont(fontOf(use));
-            widget->setMinimumHeight(std::max(widget->minimumHeight(), use.height));
+            widget->setFont(fontOf(use, zoom_));
+            widget->setMinimumHeight(std::max(widget->minimumHeight(), zoomed(use.height)));
         }
         const QVariant drawing = widget->property("drawing");
         auto* button = qobject_cast<QAbstractButton*>(widget);
         auto* label = qobject_cast<QLabel*>(widget);
         if (drawing.isValid() && (button != nullptr || label != nullptr)) {
-            const QIcon drawn = iconOf(drawing.toString(), iconColour(*widget), toColor(theme_.ink3));
+            const QIcon drawn = iconOf(drawing.toString(), iconColour(*widget), toColor(theme_->ink3));
             if (button != nullptr) {
                 button->setIcon(drawn);
-                button->setIconSize({iconSize, iconSize});
+                button->setIconSize(side);
             } else {
-                label->setPixmap(drawn.pixmap(QSize(iconSize, iconSize), label->devicePixelRatioF()));
+                label->setPixmap(drawn.pixmap(side, label->devicePixelRatioF()));
             }
         }
     }

@@ -1,13 +1,18 @@
 // The desktop program.
 
+#include "program/program_folder.h"
 #include "shell/shell.h"
 #include "ui/binder.h"
+#include "ui/desktop_printer.h"
 #include "ui/look.h"
 #include "ui/qt_host.h"
+#include "ui/recovery_keeper.h"
 #include "ui/thai_texts.h"
 #include "ui/type.h"
+#include "ui/zoom_setting.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QLibrary>
 
 #include <cstdio>
@@ -34,17 +39,25 @@ int main(int argc, char** argv) {
     QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("lodge77"));
+    QApplication::setDesktopFileName(QStringLiteral("lodge77"));
     QApplication::setQuitOnLastWindowClosed(false); // the program ends by its own rule
     if (!hasWhatThaiNeeds()) {
         return 1;
     }
     lodge::ThaiTexts texts;
     QApplication::installTranslator(&texts);
-    const lodge::Look look(application);
-    lodge::QtHost host;
+    lodge::Look look(application);
+    lodge::ZoomSetting zoom(look);
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/ui/lodge77.png")));
+    lodge::QtHost host(lodge::programFolder());
     lodge::Program program(host);
     lodge::Binder binder(program, look);
     host.watch(&binder);
+    QObject::connect(&binder, &lodge::Binder::zoomAsked, &zoom, &lodge::ZoomSetting::step);
+    lodge::DesktopPrinter printer(program, binder, look, lodge::folderOfExecutable());
+    program.attach(printer);
+    lodge::RecoveryKeeper recovery(
+        program, binder, lodge::recoveryFolder(host.environment("XDG_STATE_HOME"), host.environment("HOME")));
     lodge::Shell shell(program);
     shell.start();
     return QApplication::exec();

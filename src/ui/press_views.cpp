@@ -1,5 +1,7 @@
 #include "ui/press_views.h"
 
+#include "ui/card_button.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPushButton>
@@ -38,6 +40,11 @@ void PressView::paint(Aspect aspect) {
         if (button_.text() != caption) {
             button_.setText(caption);
         }
+        // One caption may stand on several lines of a page.
+        const QString said = button_.property("said").toString();
+        if (!said.isEmpty()) {
+            button_.setAccessibleName(QStringLiteral("%1 %2").arg(said, caption));
+        }
     } else {
         ControlView::paint(aspect);
     }
@@ -45,8 +52,13 @@ void PressView::paint(Aspect aspect) {
 
 void PressView::press() { door().press(*control()); }
 
+bool PressView::isLike(const ControlView& other) const {
+    return qobject_cast<const CardButton*>(&button_) != nullptr
+           && qobject_cast<const CardButton*>(other.widget()) != nullptr;
+}
+
 bool PressView::keyPressed(QKeyEvent& event) {
-    if (ControlView::keyPressed(event)) {
+    if (ControlView::keyPressed(event) || (isLike(*this) && arrowPressed(event))) {
         return true;
     }
     switch (event.key()) {
@@ -61,6 +73,16 @@ bool PressView::keyPressed(QKeyEvent& event) {
     case Qt::Key_Right: door().act([this](User& user) { user.moveOn(*control()); }); return true;
     case Qt::Key_Up:
     case Qt::Key_Left: door().act([this](User& user) { user.moveOn(*control(), true); }); return true;
+    default: return false;
+    }
+}
+
+bool PressView::arrowPressed(const QKeyEvent& event) {
+    switch (event.key()) {
+    case Qt::Key_Up: door().moveAcross(*control(), Direction::Up); return true;
+    case Qt::Key_Down: door().moveAcross(*control(), Direction::Down); return true;
+    case Qt::Key_Left: door().moveAcross(*control(), Direction::Left); return true;
+    case Qt::Key_Right: door().moveAcross(*control(), Direction::Right); return true;
     default: return false;
     }
 }

@@ -16,6 +16,8 @@ class PressView : public ControlView {
   public:
     PressView(Control& control, QAbstractButton& button, UserDoor& door);
     void paint(Aspect aspect) override;
+    /// Cards stand in rows and columns.
+    [[nodiscard]] bool isLike(const ControlView& other) const override;
 
   protected:
     bool keyPressed(QKeyEvent& event) override;
@@ -27,6 +29,7 @@ class PressView : public ControlView {
     [[nodiscard]] QAbstractButton& button() const { return button_; }
 
   private:
+    bool arrowPressed(const QKeyEvent& event);
     void press();
 
     QAbstractButton& button_;

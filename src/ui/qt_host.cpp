@@ -151,8 +151,6 @@ Calendar QtHost::calendar() const {
 
 std::string QtHost::environment(const std::string& name) const { return qgetenv(name.c_str()).toStdString(); }
 
-std::filesystem::path QtHost::programFolder() const { return toPath(QCoreApplication::applicationDirPath()); }
-
 bool QtHost::folderExists(const std::filesystem::path& folder) const {
     std::error_code failed;
     return std::filesystem::is_directory(folder, failed);

@@ -2,6 +2,9 @@
 #pragma once
 
 #include "program/host.h"
+#include "program/program_folder.h"
+
+#include <utility>
 
 namespace lodge {
 
@@ -15,6 +18,9 @@ class WaitWatcher {
 
 class QtHost : public Host {
   public:
+    explicit QtHost(std::filesystem::path programFolder = folderOfExecutable())
+        : programFolder_(std::move(programFolder)) {}
+
     void watch(WaitWatcher* watcher) { watcher_ = watcher; }
 
     Answer show(const Box& box) override;
@@ -31,8 +37,7 @@ class QtHost : public Host {
     /// of th_TH have; Christian otherwise.
     [[nodiscard]] Calendar calendar() const override;
     [[nodiscard]] std::string environment(const std::string& name) const override;
-    /// The folder of the executable.
-    [[nodiscard]] std::filesystem::path programFolder() const override;
+    [[nodiscard]] std::filesystem::path programFolder() const override { return programFolder_; }
     [[nodiscard]] bool folderExists(const std::filesystem::path& folder) const override;
     [[nodiscard]] bool canWriteInto(const std::filesystem::path& folder) const override;
 
@@ -42,6 +47,7 @@ class QtHost : public Host {
     template <typename Ask>
     auto waitFor(Ask ask);
 
+    std::filesystem::path programFolder_;
     WaitWatcher* watcher_ = nullptr;
     bool busy_ = false;
 };

@@ -13,8 +13,8 @@ constexpr int gap = 12;
 /// Marks stand higher above the line than they hang below it.
 constexpr int baseline = 32;
 
-QFont nameFont() { return fontOf(typeOf(QStringLiteral("sheetHead"))); }
-QFont remarkFont() { return fontOf(typeOf(QStringLiteral("sheetName"))); }
+QFont nameFont() { return fontOf(typeOf(QStringLiteral("sheetHead")), zoomNow()); }
+QFont remarkFont() { return fontOf(typeOf(QStringLiteral("sheetName")), zoomNow()); }
 
 } // namespace
 
@@ -44,18 +44,18 @@ void SheetTitle::setRemark(const QString& remark) {
 QSize SheetTitle::sizeHint() const {
     const int first = QFontMetrics(nameFont()).horizontalAdvance(name());
     const int second = QFontMetrics(remarkFont()).horizontalAdvance(remark());
-    return {first + (remark().isEmpty() ? 0 : gap + second) + 2, titleHeight};
+    return {first + (remark().isEmpty() ? 0 : zoomed(gap) + second) + 2, zoomed(titleHeight)};
 }
 
 void SheetTitle::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setFont(nameFont());
     painter.setPen(palette().color(QPalette::Link));
-    painter.drawText(0, baseline, name());
-    const int after = painter.fontMetrics().horizontalAdvance(name()) + gap;
+    painter.drawText(0, zoomed(baseline), name());
+    const int after = painter.fontMetrics().horizontalAdvance(name()) + zoomed(gap);
     painter.setFont(remarkFont());
     painter.setPen(palette().color(QPalette::WindowText));
-    painter.drawText(after, baseline, remark());
+    painter.drawText(after, zoomed(baseline), remark());
 }
 
 } // namespace lodge

@@ -1,6 +1,7 @@
 #include "ui/show_views.h"
 
 #include "ui/boxes.h"
+#include "ui/type.h"
 
 #include <QMouseEvent>
 
@@ -9,12 +10,18 @@ namespace lodge {
 namespace {
 
 /// How far the figure of a box stands further in than that of a label: its border and what the toolkit adds.
-constexpr int boxInset = 3;
+constexpr int boxInset = 5;
 
 /// Has the points of amounts with and without brackets stand below one another, and below those of boxes.
 void alignPoint(QLabel& amount) {
     const int bracket = amount.fontMetrics().horizontalAdvance(QLatin1Char(')'));
-    amount.setIndent(boxInset + (amount.text().endsWith(QLatin1Char(')')) ? 0 : bracket));
+    amount.setIndent(zoomed(boxInset) + (amount.text().endsWith(QLatin1Char(')')) ? 0 : bracket));
+}
+
+/// A label that has a name of its own would be read without what it shows.
+void describeFigure(QLabel& figure) {
+    figure.setAccessibleDescription(
+        figure.text().isEmpty() ? QString() : QStringLiteral("%1 บาท โปรแกรมคำนวณ").arg(figure.text()));
 }
 
 } // namespace
@@ -50,6 +57,9 @@ void LabelView::paint(Aspect aspect) {
         }
         if (label_.property("amount").toBool()) {
             alignPoint(label_);
+        }
+        if (!label_.accessibleName().isEmpty()) {
+            describeFigure(label_);
         }
     } else {
         PanelView::paint(aspect);

@@ -1,5 +1,7 @@
 #include "ui/tick_box.h"
 
+#include "ui/type.h"
+
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionButton>
@@ -36,18 +38,13 @@ int captionWidth(const QAbstractButton& button) {
     return button.fontMetrics().size(Qt::TextShowMnemonic, drawnCaption(button)).width();
 }
 
-int heightFor(const QAbstractButton& button, int width) {
-    const QRect room(0, 0, std::max(1, width - captionLeft(button)), 10000);
-    const int text = button.fontMetrics().boundingRect(room, captionFlags, drawnCaption(button)).height();
-    return std::max(rowHeight, text + 2 * margin);
-}
-
 QSize wholeSize(const QAbstractButton& button) {
-    return {captionLeft(button) + captionWidth(button) + 1, rowHeight};
+    return {captionLeft(button) + captionWidth(button) + 1, zoomed(rowHeight)};
 }
 
 QSize leastSize(const QAbstractButton& button) {
-    return {captionLeft(button) + std::min(captionWidth(button) + 1, leastCaptionWidth), rowHeight};
+    return {captionLeft(button) + std::min(captionWidth(button) + 1, zoomed(leastCaptionWidth)),
+        zoomed(rowHeight)};
 }
 
 void letWrap(QWidget& widget) {
@@ -69,6 +66,24 @@ void paint(QAbstractButton& button, const QStyleOptionButton& option, QStyle::Pr
 
 } // namespace
 
+int CaptionHeights::of(const QAbstractButton& button, int width) const {
+    if (text_ != button.text() || font_ != button.font() || heights_.isEmpty()) {
+        text_ = button.text();
+        font_ = button.font();
+        heights_.clear();
+        wholeWidth_ = captionWidth(button) + 1;
+    }
+    // In any width that it fits into, it is as high as in its own.
+    const int room = std::clamp(width - captionLeft(button), 1, std::max(1, wholeWidth_));
+    const auto known = heights_.constFind(room);
+    if (known != heights_.constEnd()) {
+        return *known;
+    }
+    const QRect space(0, 0, room, 10000);
+    const int text = button.fontMetrics().boundingRect(space, captionFlags, drawnCaption(button)).height();
+    return *heights_.insert(room, std::max(zoomed(rowHeight), text + 2 * margin));
+}
+
 bool isChoice(const QWidget& widget) { return qobject_cast<const QRadioButton*>(&widget) != nullptr; }
 
 bool isTick(const QWidget& widget) {
@@ -77,13 +92,13 @@ bool isTick(const QWidget& widget) {
 
 QRect indicatorRect(const QWidget& widget) {
     const int side = indicatorSide(widget);
-    return {0, (rowHeight - side) / 2, side, side};
+    return {0, (zoomed(rowHeight) - side) / 2, side, side};
 }
 
 TickBox::TickBox(QWidget* parent) : QCheckBox(parent) { letWrap(*this); }
 QSize TickBox::sizeHint() const { return wholeSize(*this); }
 QSize TickBox::minimumSizeHint() const { return leastSize(*this); }
-int TickBox::heightForWidth(int width) const { return heightFor(*this, width); }
+int TickBox::heightForWidth(int width) const { return heights_.of(*this, width); }
 bool TickBox::hitButton(const QPoint& place) const { return rect().contains(place); }
 
 void TickBox::paintEvent(QPaintEvent* /*event*/) {
@@ -98,7 +113,7 @@ ChoiceBox::ChoiceBox(QWidget* parent) : QRadioButton(parent) {
 }
 QSize ChoiceBox::sizeHint() const { return wholeSize(*this); }
 QSize ChoiceBox::minimumSizeHint() const { return leastSize(*this); }
-int ChoiceBox::heightForWidth(int width) const { return heightFor(*this, width); }
+int ChoiceBox::heightForWidth(int width) const { return heights_.of(*this, width); }
 bool ChoiceBox::hitButton(const QPoint& place) const { return rect().contains(place); }
 
 void ChoiceBox::paintEvent(QPaintEvent* /*event*/) {

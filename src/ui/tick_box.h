@@ -2,9 +2,25 @@
 #pragma once
 
 #include <QCheckBox>
+#include <QFont>
+#include <QHash>
 #include <QRadioButton>
+#include <QString>
 
 namespace lodge {
+
+/// How high a tick or choice gets in a width. Layouts ask for the same few widths over and over, and to break
+/// a Thai line is dear: what was asked before is remembered, as long as caption and font stay.
+class CaptionHeights {
+  public:
+    [[nodiscard]] int of(const QAbstractButton& button, int width) const;
+
+  private:
+    mutable QString text_;
+    mutable QFont font_;
+    mutable int wholeWidth_ = 0;
+    mutable QHash<int, int> heights_; // by the width left for the caption
+};
 
 class TickBox : public QCheckBox {
     Q_OBJECT
@@ -20,6 +36,9 @@ class TickBox : public QCheckBox {
   protected:
     [[nodiscard]] bool hitButton(const QPoint& place) const override;
     void paintEvent(QPaintEvent* event) override;
+
+  private:
+    CaptionHeights heights_;
 };
 
 class ChoiceBox : public QRadioButton {
@@ -36,6 +55,9 @@ class ChoiceBox : public QRadioButton {
   protected:
     [[nodiscard]] bool hitButton(const QPoint& place) const override;
     void paintEvent(QPaintEvent* event) override;
+
+  private:
+    CaptionHeights heights_;
 };
 
 /// Whether a widget has an indicator beside its caption, and whether that is round.

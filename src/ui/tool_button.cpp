@@ -15,7 +15,7 @@ constexpr int leastPadding = 4;
 constexpr int iconGap = 6;
 constexpr int hintGap = 8;
 
-QFont hintFont() { return fontOf(typeOf(QStringLiteral("tag"))); }
+QFont hintFont() { return fontOf(typeOf(QStringLiteral("tag")), zoomNow()); }
 
 } // namespace
 
@@ -30,23 +30,36 @@ void ToolButton::setKeyHint(const QString& hint) {
     update();
 }
 
-int ToolButton::captionWidth() const { return fontMetrics().size(Qt::TextShowMnemonic, text()).width(); }
+void ToolButton::setShape(Shape shape) {
+    if (shape_ != shape) {
+        shape_ = shape;
+        updateGeometry();
+        update();
+    }
+}
+
+int ToolButton::captionWidth() const {
+    return shape_ == Shape::Icon ? 0 : fontMetrics().size(Qt::TextShowMnemonic, text()).width();
+}
 
 int ToolButton::hintWidth() const {
-    return keyHint_.isEmpty() ? 0 : QFontMetrics(hintFont()).horizontalAdvance(keyHint_) + hintGap;
+    const bool hinted = shape_ == Shape::Whole && !keyHint_.isEmpty();
+    return hinted ? QFontMetrics(hintFont()).horizontalAdvance(keyHint_) + zoomed(hintGap) : 0;
 }
 
-int ToolButton::iconWidth() const { return icon().isNull() ? 0 : iconSize().width() + iconGap; }
+int ToolButton::iconWidth() const {
+    return icon().isNull() ? 0 : iconSize().width() + (shape_ == Shape::Icon ? 0 : zoomed(iconGap));
+}
 
 QSize ToolButton::sizeHint() const {
-    return {2 * padding + iconWidth() + captionWidth() + hintWidth(), toolHeight};
-}
-
-QSize ToolButton::minimumSizeHint() const {
-    return {2 * leastPadding + iconWidth() + captionWidth(), toolHeight};
+    const int around = shape_ == Shape::Captioned ? leastPadding : padding;
+    return {zoomed(2 * around) + iconWidth() + captionWidth() + hintWidth(), zoomed(toolHeight)};
 }
 
 bool ToolButton::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTip) {
+        setToolTip(keyHint_.isEmpty() ? text() : QStringLiteral("%1  %2").arg(text(), keyHint_));
+    }
     if (event->type() == QEvent::HoverEnter || event->type() == QEvent::HoverLeave) {
         update();
     }
@@ -63,21 +76,23 @@ void ToolButton::paintEvent(QPaintEvent* /*event*/) {
             palette().color(isDown() || isChecked() ? QPalette::Midlight : QPalette::AlternateBase));
         painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
     }
-    const bool whole = width() >= 2 * leastPadding + iconWidth() + captionWidth() + hintWidth();
-    const int content = iconWidth() + captionWidth() + (whole ? hintWidth() : 0);
-    int x = std::max(leastPadding, (width() - content) / 2);
+    const int content = iconWidth() + captionWidth() + hintWidth();
+    int x = std::max(zoomed(leastPadding), (width() - content) / 2);
     if (!icon().isNull()) {
         const QRect place(QPoint(x, (height() - iconSize().height()) / 2), iconSize());
         icon().paint(&painter, place, Qt::AlignCenter, open ? QIcon::Normal : QIcon::Disabled);
         x += iconWidth();
     }
+    if (shape_ == Shape::Icon) {
+        return;
+    }
     painter.setPen(palette().color(open ? QPalette::Active : QPalette::Disabled, QPalette::ButtonText));
     painter.drawText(QRect(x, 0, captionWidth() + 1, height()),
         Qt::AlignVCenter | Qt::AlignLeft | Qt::TextShowMnemonic, text());
-    if (whole && !keyHint_.isEmpty()) {
+    if (hintWidth() > 0) {
         painter.setFont(hintFont());
         painter.setPen(palette().color(QPalette::PlaceholderText));
-        painter.drawText(QRect(x + captionWidth() + hintGap, 0, hintWidth(), height()),
+        painter.drawText(QRect(x + captionWidth() + zoomed(hintGap), 0, hintWidth(), height()),
             Qt::AlignVCenter | Qt::AlignLeft, keyHint_);
     }
 }

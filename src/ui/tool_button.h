@@ -15,9 +15,12 @@ class ToolButton : public QAbstractButton {
     [[nodiscard]] const QString& keyHint() const { return keyHint_; }
     void setKeyHint(const QString& hint);
 
+    /// What there is room for: all, no key, the icon alone.
+    enum class Shape { Whole, Captioned, Icon };
+    void setShape(Shape shape);
+
     [[nodiscard]] QSize sizeHint() const override;
-    /// On a narrow screen the hint goes first and the padding shrinks.
-    [[nodiscard]] QSize minimumSizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -29,6 +32,7 @@ class ToolButton : public QAbstractButton {
     [[nodiscard]] int iconWidth() const;
 
     QString keyHint_;
+    Shape shape_ = Shape::Whole;
 };
 
 } // namespace lodge

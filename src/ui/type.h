@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QFont>
+#include <QSize>
 #include <QString>
 #include <QStringList>
 
@@ -38,7 +39,17 @@ inline constexpr std::array<Type, 10> types = {{
 
 /// The use of that name; "field" for a name that is none.
 [[nodiscard]] const Type& typeOf(const QString& name);
-[[nodiscard]] QFont fontOf(const Type& type);
+/// Its font at a zoom of 1, or of that much: never wider than the zoom, so that it fits what fitted at 1.
+[[nodiscard]] QFont fontOf(const Type& type, double zoom = 1);
+
+/// The steps of the zoom; each gives the font of the application a size of its own.
+inline constexpr std::array zoomLevels = {0.75, 0.9, 1.0, 1.1, 1.25, 1.5, 1.75, 2.0};
+
+/// How much larger than designed the application is drawn, as the font of the application tells.
+[[nodiscard]] double zoomNow();
+/// Pixels of the design as they are drawn at that zoom.
+[[nodiscard]] int zoomed(int pixels);
+[[nodiscard]] QSize zoomed(const QSize& size);
 
 /// What the machine lacks of the fonts, as the Debian packages to install; empty when all are there.
 [[nodiscard]] QStringList missingFontPackages();

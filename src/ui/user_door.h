@@ -8,6 +8,9 @@
 
 namespace lodge {
 
+/// Where the arrow keys lead from a field.
+enum class Direction { Up, Down, Left, Right };
+
 class UserDoor {
   public:
     virtual ~UserDoor() = default;
@@ -17,6 +20,9 @@ class UserDoor {
     virtual void press(Control& button) = 0;
     /// Goes to an item as by the chooser and its button of that name; a rule may keep the person on the page.
     virtual void openItem(const std::string& /*chooserButton*/) {}
+    /// Goes to the nearest field of the same kind that stands in that direction on the page; nothing when
+    /// there is none.
+    virtual void moveAcross(Control& /*from*/, Direction /*where*/) {}
     /// Has the focus of the screen agree again with that of the desk, once everything has settled.
     virtual void settleSoon() = 0;
 };

@@ -344,13 +344,20 @@ class ScreensTest : public QObject {
 
     void noTextIsCut_data() {
         QTest::addColumn<QSize>("size");
-        QTest::newRow("smallest") << QSize(1180, 640);
-        QTest::newRow("usual") << QSize(1366, 768);
-        QTest::newRow("4K") << QSize(3840, 2160);
+        QTest::addColumn<double>("zoom");
+        QTest::newRow("smallest") << QSize(1180, 640) << 1.0;
+        QTest::newRow("usual") << QSize(1366, 768) << 1.0;
+        QTest::newRow("4K") << QSize(3840, 2160) << 1.0;
+        QTest::newRow("reduced") << QSize(1366, 768) << 0.75;
+        QTest::newRow("enlarged") << QSize(1366, 768) << 1.5;
+        QTest::newRow("doubled") << QSize(1366, 768) << 2.0;
     }
 
     void noTextIsCut() {
         QFETCH(QSize, size);
+        QFETCH(double, zoom);
+        application_.look.setZoom(zoom);
+        const auto plain = qScopeGuard([this] { application_.look.setZoom(1); });
         Desktop desktop(application_.look);
         desktop.program.state.strStartDDMMYY = "01012561";
         desktop.program.state.strFinishDDMMYY = "31122561";

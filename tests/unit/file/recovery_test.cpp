@@ -241,7 +241,8 @@ TEST_F(RecoveryTest, TheNewestAutomaticStoreIsTheLastSoundOneOfItsKind) {
         const StoreResult stored = storeReturn(
             state, work.path(""), number, std::chrono::local_days{std::chrono::year{2019} / 5 / 20});
         ASSERT_EQ(stored.error, "");
-        fs::last_write_time(stored.packedPath, fs::file_time_type::clock::now() - std::chrono::hours(hoursAgo));
+        fs::last_write_time(
+            stored.packedPath, fs::file_time_type::clock::now() - std::chrono::hours(hoursAgo));
     };
     EXPECT_FALSE(newestAutomaticStore(work.path("")));
     store("0105536000313", "T", 3);

@@ -254,7 +254,8 @@ TEST_F(Page2Checks, EveryFocusIsAControlOfThePage) {
     const Form& design = program.desk.loadedOrDesign(frmLodgePage2::formName);
     EXPECT_GT(refusals.size(), 15U);
     for (const Refusal& refusal : refusals)
-        EXPECT_TRUE(refusal.form != frmLodgePage2::formName || design.find(refusal.control) != nullptr) << refusal.control;
+        EXPECT_TRUE(refusal.form != frmLodgePage2::formName || design.find(refusal.control) != nullptr)
+            << refusal.control;
 }
 
 TEST_F(Page2Checks, AnEarlierTaxGoesBackIntoTheBalance) {

@@ -1,0 +1,246 @@
+#include "ui/page_list.h"
+
+#include "shell/page_table.h"
+#include "ui/item_marks.h"
+#include "ui/look.h"
+#include "ui/type.h"
+#include "values/money.h"
+
+#include <QAbstractListModel>
+#include <QEvent>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QListView>
+#include <QMainWindow>
+#include <QPainter>
+#include <QStyledItemDelegate>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace lodge {
+
+namespace {
+
+constexpr int listWidth = 184;
+constexpr int rowHeight = 32;
+constexpr int markSize = 16;
+constexpr int padding = 12;
+constexpr int handWidth = 3;
+/// The narrowest page that the list leaves room for; on a smaller screen there is no list.
+constexpr int pageWidth = 1180;
+
+QFont fontNamed(const char* type) { return fontOf(typeOf(QLatin1String(type))); }
+
+} // namespace
+
+class PageModel : public QAbstractListModel {
+  public:
+    using QAbstractListModel::QAbstractListModel;
+
+    void show(const std::vector<ItemState>& items) {
+        beginResetModel();
+        items_ = items;
+        endResetModel();
+    }
+    [[nodiscard]] const ItemState& item(int row) const { return items_.at(static_cast<std::size_t>(row)); }
+    [[nodiscard]] int rowOf(std::int16_t page) const {
+        const auto found = std::ranges::find(items_, page, &ItemState::page);
+        return found == items_.end() ? -1 : static_cast<int>(found - items_.begin());
+    }
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent) const override {
+        return parent.isValid() ? 0 : static_cast<int>(items_.size());
+    }
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override {
+        const ItemState& state = item(index.row());
+        switch (role) {
+        case Qt::DisplayRole: return shortPageName(state.page);
+        case Qt::ToolTipRole:
+        case Qt::AccessibleTextRole:
+            return QStringLiteral("%1: %2").arg(shortPageName(state.page), stateWords(state));
+        default: return {};
+        }
+    }
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override {
+        const bool closed = item(index.row()).progress == ItemProgress::Closed;
+        return closed ? Qt::NoItemFlags : QAbstractListModel::flags(index);
+    }
+
+  private:
+    std::vector<ItemState> items_;
+};
+
+namespace {
+
+/// A mark of the state, the name of the page, how many things are in the way.
+class PageDelegate : public QStyledItemDelegate {
+  public:
+    PageDelegate(const PageModel& model, const PageList& list) : model_(model), list_(list) {}
+
+    [[nodiscard]] QSize sizeHint(
+        const QStyleOptionViewItem& /*option*/, const QModelIndex& /*index*/) const override {
+        return zoomed(QSize(listWidth, rowHeight));
+    }
+    void paint(
+        QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        const ItemState& item = model_.item(index.row());
+        const bool inHand = (option.state & QStyle::State_Selected) != 0;
+        if (inHand) {
+            painter->fillRect(option.rect, option.palette.color(QPalette::Midlight));
+            painter->fillRect(option.rect.adjusted(0, 0, zoomed(handWidth) - option.rect.width(), 0),
+                option.palette.color(QPalette::Link));
+        }
+        const QRect room = option.rect.adjusted(zoomed(padding), 0, -zoomed(padding), 0);
+        const QColor ink = inkOf(item, option.palette);
+        const int size = zoomed(markSize);
+        iconOf(stateDrawing(item.progress), ink, ink)
+            .paint(painter, QRect(room.left(), room.center().y() - size / 2 + 1, size, size));
+        if (item.progress == ItemProgress::InTheWay) {
+            painter->setFont(fontNamed("tag"));
+            painter->setPen(ink);
+            painter->drawText(room, Qt::AlignRight | Qt::AlignVCenter, QString::number(item.problems));
+        }
+        QFont name = fontNamed("field");
+        name.setBold(inHand);
+        painter->setFont(name);
+        const bool closed = item.progress == ItemProgress::Closed;
+        painter->setPen(option.palette.color(closed ? QPalette::PlaceholderText : QPalette::WindowText));
+        painter->drawText(room.adjusted(size + zoomed(padding) - 4, 0, 0, 0),
+            Qt::AlignLeft | Qt::AlignVCenter, index.data().toString());
+    }
+
+  private:
+    [[nodiscard]] QColor inkOf(const ItemState& item, const QPalette& palette) const {
+        switch (item.progress) {
+        case ItemProgress::Clear: return list_.property("okInk").value<QColor>();
+        case ItemProgress::Named: return list_.property("warnInk").value<QColor>();
+        case ItemProgress::InTheWay: return palette.color(QPalette::BrightText);
+        default: return palette.color(QPalette::PlaceholderText);
+        }
+    }
+
+    const PageModel& model_;
+    const PageList& list_;
+};
+
+} // namespace
+
+PageList::PageList(const Program& program, const ProblemWatch& watch, QWidget* parent)
+    : QDockWidget(parent), program_(program), watch_(watch), model_(nullptr), list_(new QListView),
+      captions_(), figures_() {
+    setObjectName(QStringLiteral("decorPageList"));
+    setWindowTitle(QStringLiteral("รายการ"));
+    setAccessibleName(windowTitle());
+    setFeatures(QDockWidget::NoDockWidgetFeatures);
+    setTitleBarWidget(new QWidget(this));
+    model_ = new PageModel(list_);
+    list_->setModel(model_);
+    list_->setItemDelegate(new PageDelegate(*model_, *this));
+    list_->itemDelegate()->setParent(list_);
+    list_->setUniformItemSizes(true);
+    list_->setProperty("role", QByteArray("pages"));
+    list_->setAccessibleName(windowTitle());
+    list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    // A click goes to the page, and the focus with it; F6 comes here to choose by keys.
+    list_->setFocusPolicy(Qt::TabFocus);
+    list_->installEventFilter(this);
+    connect(list_, &QListView::clicked, this, [this](const QModelIndex& at) { choose(at.row()); });
+
+    auto* body = new QFrame;
+    body->setProperty("role", QByteArray("pages"));
+    auto* rows = new QVBoxLayout(body);
+    rows->setContentsMargins(0, 8, 0, 0);
+    rows->setSpacing(0);
+    rows->addWidget(list_, 1);
+    rows->addWidget(makeWatchBar());
+    body->setFixedWidth(zoomed(listWidth));
+    setWidget(body);
+    hide();
+    parent->installEventFilter(this);
+    connect(&watch, &ProblemWatch::changed, this, &PageList::refresh);
+}
+
+QWidget* PageList::makeWatchBar() {
+    auto* bar = new QFrame;
+    bar->setProperty("role", QByteArray("watchBar"));
+    auto* rows = new QVBoxLayout(bar);
+    rows->setContentsMargins(padding, 6, padding, 8);
+    rows->setSpacing(0);
+    for (std::size_t i = 0; i < figures_.size(); ++i) {
+        captions_.at(i) = new QLabel;
+        captions_.at(i)->setProperty("type", QByteArray("label"));
+        figures_.at(i) = new QLabel;
+        figures_.at(i)->setProperty("type", QByteArray("heading"));
+        figures_.at(i)->setProperty("role", QByteArray("watched"));
+        figures_.at(i)->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        rows->addWidget(captions_.at(i));
+        rows->addWidget(figures_.at(i));
+    }
+    return bar;
+}
+
+void PageList::refresh() {
+    const ReturnState& stored = watch_.stored();
+    const FieldArray& tax = stored.strFldPage2;
+    model_->show(watch_.items());
+    const int row = model_->rowOf(program_.state.intPageCur);
+    if (row >= 0) {
+        list_->setCurrentIndex(model_->index(row));
+    }
+    constexpr std::size_t loss = 23;
+    constexpr std::size_t receipts = 24;
+    constexpr std::size_t result = 32;
+    constexpr std::size_t computedTax = 33;
+    constexpr std::size_t overpaid = 31;
+    constexpr std::size_t balance = 43;
+    const std::array<QString, 3> captions = {tax[loss] == "1" ? QStringLiteral("ขาดทุนสุทธิ")
+                                             : tax[receipts] == "1" ? QStringLiteral("รายรับก่อนหักรายจ่าย")
+                                                                    : QStringLiteral("กำไรสุทธิที่ต้องเสียภาษี"),
+        QStringLiteral("ภาษีที่คำนวณได้"),
+        tax[overpaid] == "1" ? QStringLiteral("ชำระไว้เกิน") : QStringLiteral("ชำระเพิ่มเติม")};
+    const std::string& taxOfReturn =
+        stored.DataCtrl_P2.TaxValue.empty() ? tax[computedTax] : stored.DataCtrl_P2.TaxValue;
+    const std::array<std::string, 3> figures = {tax[result], taxOfReturn, tax[balance]};
+    for (std::size_t i = 0; i < figures_.size(); ++i) {
+        captions_.at(i)->setText(captions.at(i));
+        figures_.at(i)->setText(QString::fromStdString(formatMoneyText(figures.at(i))));
+    }
+    showWhereThereIsRoom();
+}
+
+void PageList::showWhereThereIsRoom() {
+    const bool onPage = watch_.hasReturn() && findPage(program_.state.intPageCur) != nullptr;
+    setVisible(onPage && parentWidget()->width() - zoomed(listWidth) >= zoomed(pageWidth));
+}
+
+void PageList::choose(int row) {
+    if (row < 0 || model_->item(row).progress == ItemProgress::Closed) {
+        return;
+    }
+    const std::int16_t page = model_->item(row).page;
+    // Where a check keeps the person, the list says so by its row.
+    if (const int here = model_->rowOf(program_.state.intPageCur); here >= 0) {
+        list_->setCurrentIndex(model_->index(here));
+    }
+    emit chosen(page);
+}
+
+bool PageList::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == parentWidget() && event->type() == QEvent::Resize) {
+        showWhereThereIsRoom();
+    }
+    if (watched != list_ || event->type() != QEvent::KeyPress) {
+        return QDockWidget::eventFilter(watched, event);
+    }
+    switch (static_cast<const QKeyEvent&>(*event).key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter: choose(list_->currentIndex().row()); return true;
+    case Qt::Key_Escape:
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab: emit left(); return true;
+    default: return false;
+    }
+}
+
+} // namespace lodge

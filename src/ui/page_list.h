@@ -1,0 +1,57 @@
+// The pages of the return beside the page on screen: how far each has come, and below them the figures that
+// an accountant keeps an eye on.
+#pragma once
+
+#include "ui/problem_watch.h"
+
+#include <QColor>
+#include <QDockWidget>
+
+#include <array>
+#include <cstdint>
+
+class QLabel;
+class QListView;
+
+namespace lodge {
+
+class PageModel;
+
+class PageList : public QDockWidget {
+    Q_OBJECT
+    // The inks of the states; the style sheet gives them.
+    Q_PROPERTY(QColor okInk MEMBER okInk_)
+    Q_PROPERTY(QColor warnInk MEMBER warnInk_)
+
+  public:
+    /// Both must outlive the list.
+    PageList(const Program& program, const ProblemWatch& watch, QWidget* parent);
+
+    [[nodiscard]] QListView* list() const { return list_; }
+
+  signals:
+    /// The person wants to go to that page.
+    void chosen(std::int16_t page);
+    /// The person is done with the list.
+    void left();
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    [[nodiscard]] QWidget* makeWatchBar();
+    void refresh();
+    void showWhereThereIsRoom();
+    void choose(int row);
+
+    const Program& program_;
+    const ProblemWatch& watch_;
+    PageModel* model_;
+    QListView* list_;
+    std::array<QLabel*, 3> captions_;
+    std::array<QLabel*, 3> figures_;
+    QColor okInk_;
+    QColor warnInk_;
+};
+
+} // namespace lodge

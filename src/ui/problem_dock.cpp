@@ -1,0 +1,354 @@
+#include "ui/problem_dock.h"
+
+#include "ui/item_marks.h"
+#include "ui/look.h"
+#include "ui/type.h"
+#include "values/money.h"
+
+#include <QAbstractTableModel>
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPainter>
+#include <QStackedWidget>
+#include <QStyle>
+#include <QStyledItemDelegate>
+#include <QTreeView>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace lodge {
+
+namespace {
+
+enum ProblemColumn { IconColumn, PageColumn, TextColumn, SidesColumn, DifferenceColumn, ColumnCount };
+
+constexpr int rowHeight = 30;
+constexpr int titleHeight = 32;
+constexpr int markSize = 16;
+constexpr int cellPadding = 8;
+
+const std::array<QString, ColumnCount> heads = {QString(), QStringLiteral("หน้า"), QStringLiteral("ข้อความ"),
+    QStringLiteral("สองยอดที่ต้องเท่ากัน"), QStringLiteral("ต่าง")};
+
+QString money(double amount) { return QString::fromStdString(formatBracket(amount)); }
+
+QString textOf(const Problem& problem) {
+    return QString::fromStdString(onOneLine(problem.refusal.text)).simplified();
+}
+
+QString sidesOf(const Problem& problem) {
+    const auto& sides = problem.refusal.sides;
+    return sides ? QStringLiteral("%1 / %2").arg(money(sides->here), money(sides->there)) : QString();
+}
+
+QString differenceOf(const Problem& problem) {
+    const auto& sides = problem.refusal.sides;
+    return sides ? money(std::abs(sides->here - sides->there)) : QString();
+}
+
+QFont fontNamed(const char* type) { return fontOf(typeOf(QLatin1String(type))); }
+
+/// Plain rows with a hairline below each; the row in hand is tinted.
+class RowDelegate : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    [[nodiscard]] QSize sizeHint(
+        const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        return {QStyledItemDelegate::sizeHint(option, index).width(), zoomed(rowHeight)};
+    }
+    void paint(
+        QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        const bool inHand = (option.state & QStyle::State_Selected) != 0;
+        painter->fillRect(option.rect, option.palette.color(inHand ? QPalette::Midlight : QPalette::Light));
+        painter->setPen(option.palette.color(QPalette::Mid));
+        painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
+        const QRect room = option.rect.adjusted(zoomed(cellPadding), 0, -zoomed(cellPadding), -1);
+        const QVariant icon = index.data(Qt::DecorationRole);
+        if (icon.isValid()) {
+            const int size = zoomed(markSize);
+            icon.value<QIcon>().paint(painter, QRect(room.left(), room.center().y() - size / 2, size, size));
+        }
+        const QVariant ink = index.data(Qt::ForegroundRole);
+        painter->setPen(ink.isValid() ? ink.value<QColor>() : option.palette.color(QPalette::Text));
+        painter->setFont(option.font);
+        painter->drawText(room, index.data(Qt::TextAlignmentRole).toInt(),
+            option.fontMetrics.elidedText(
+                index.data(Qt::DisplayRole).toString(), Qt::ElideRight, room.width()));
+    }
+};
+
+/// A key on a little cap, with what it does.
+void addKey(QHBoxLayout& row, const QString& key, const QString& meaning) {
+    auto* cap = new QLabel(key);
+    cap->setProperty("type", QByteArray("tag"));
+    cap->setProperty("role", QByteArray("keycap"));
+    auto* does = new QLabel(meaning);
+    does->setProperty("type", QByteArray("tag"));
+    row.addWidget(cap, 0, Qt::AlignVCenter);
+    row.addWidget(does, 0, Qt::AlignVCenter);
+    row.addSpacing(8);
+}
+
+} // namespace
+
+class ProblemModel : public QAbstractTableModel {
+  public:
+    using QAbstractTableModel::QAbstractTableModel;
+
+    void show(const std::vector<Problem>& problems) {
+        beginResetModel();
+        problems_ = problems;
+        endResetModel();
+    }
+    [[nodiscard]] const std::vector<Problem>& problems() const { return problems_; }
+    /// The row that says the same of the same field, -1 for none.
+    [[nodiscard]] int rowOf(const Refusal& refusal) const {
+        const auto found = std::ranges::find_if(problems_, [&](const Problem& problem) {
+            return problem.refusal.text == refusal.text && problem.refusal.form == refusal.form
+                   && problem.refusal.control == refusal.control;
+        });
+        return found == problems_.end() ? -1 : static_cast<int>(found - problems_.begin());
+    }
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent) const override {
+        return parent.isValid() ? 0 : static_cast<int>(problems_.size());
+    }
+    [[nodiscard]] int columnCount(const QModelIndex& /*parent*/) const override { return ColumnCount; }
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
+        if (orientation != Qt::Horizontal) return {};
+        if (role == Qt::DisplayRole) return heads.at(static_cast<std::size_t>(section));
+        if (role == Qt::TextAlignmentRole) return alignment(section);
+        return {};
+    }
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override {
+        const Problem& problem = problems_.at(static_cast<std::size_t>(index.row()));
+        const QPalette palette = static_cast<const QWidget*>(QObject::parent())->palette();
+        const QColor stop = palette.color(QPalette::BrightText);
+        switch (role) {
+        case Qt::DisplayRole: return text(problem, index.column());
+        case Qt::AccessibleTextRole:
+            return index.column() == IconColumn ? QStringLiteral("ติดขัด") : text(problem, index.column());
+        case Qt::ToolTipRole:
+            return QStringList({textOf(problem), sidesOf(problem)}).join(QLatin1Char('\n')).trimmed();
+        case Qt::TextAlignmentRole: return alignment(index.column());
+        case Qt::DecorationRole:
+            return index.column() == IconColumn ? QVariant(iconOf(QStringLiteral("stop"), stop, stop))
+                                                : QVariant();
+        case Qt::ForegroundRole:
+            if (index.column() == PageColumn) return palette.color(QPalette::LinkVisited);
+            return index.column() == DifferenceColumn ? QVariant(stop) : QVariant();
+        default: return {};
+        }
+    }
+
+  private:
+    static QVariant alignment(int column) {
+        const bool isAmount = column == SidesColumn || column == DifferenceColumn;
+        return QVariant::fromValue((isAmount ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+    }
+    static QString text(const Problem& problem, int column) {
+        switch (column) {
+        case PageColumn: return shortPageName(problem.page);
+        case TextColumn: return textOf(problem);
+        case SidesColumn: return sidesOf(problem);
+        case DifferenceColumn: return differenceOf(problem);
+        default: return {};
+        }
+    }
+
+    std::vector<Problem> problems_;
+};
+
+ProblemDock::ProblemDock(const ProblemWatch& watch, QWidget* parent)
+    : QDockWidget(parent), watch_(watch), model_(nullptr), list_(new QTreeView), count_(new QLabel),
+      nothing_(new QLabel(QStringLiteral("ไม่มีรายการติดขัด จัดเก็บได้"))), body_(new QStackedWidget) {
+    setObjectName(QStringLiteral("decorProblems"));
+    setWindowTitle(QStringLiteral("รายการที่ยังติดขัด"));
+    setAccessibleName(windowTitle());
+    setFeatures(QDockWidget::DockWidgetClosable);
+    setTitleBarWidget(makeTitle());
+    makeList();
+    body_->addWidget(list_);
+    body_->addWidget(makeNothing());
+    body_->setMinimumHeight(zoomed(3 * rowHeight));
+    setWidget(body_);
+    connect(&watch, &ProblemWatch::changed, this, &ProblemDock::refresh);
+    refresh();
+}
+
+QWidget* ProblemDock::makeTitle() {
+    auto* title = new QFrame(this);
+    title->setProperty("role", QByteArray("dockTitle"));
+    title->setFixedHeight(zoomed(titleHeight));
+    auto* row = new QHBoxLayout(title);
+    row->setContentsMargins(12, 0, 12, 0);
+    row->setSpacing(6);
+    auto* name = new QLabel(windowTitle());
+    name->setProperty("type", QByteArray("advice"));
+    row->addWidget(name);
+    row->addSpacing(6);
+    count_->setProperty("type", QByteArray("tag"));
+    count_->setProperty("role", QByteArray("pill"));
+    row->addWidget(count_, 0, Qt::AlignVCenter);
+    row->addStretch(1);
+    addKey(*row, QStringLiteral("F8"), QStringLiteral("ถัดไป"));
+    addKey(*row, QStringLiteral("Shift+F8"), QStringLiteral("ก่อนหน้า"));
+    addKey(*row, QStringLiteral("Enter"), QStringLiteral("ไปที่ช่อง"));
+    addKey(*row, QStringLiteral("F7"), QStringLiteral("ซ่อน"));
+    auto* close = new QToolButton;
+    close->setProperty("drawing", QByteArray("cross"));
+    close->setAccessibleName(QStringLiteral("ซ่อน"));
+    close->setAutoRaise(true);
+    close->setFocusPolicy(Qt::NoFocus);
+    connect(close, &QToolButton::clicked, this, [this] {
+        hide();
+        emit left();
+    });
+    row->addWidget(close);
+    return title;
+}
+
+QWidget* ProblemDock::makeNothing() {
+    auto* paper = new QFrame;
+    paper->setProperty("role", QByteArray("paper"));
+    auto* rows = new QVBoxLayout(paper);
+    rows->setContentsMargins(0, 0, 0, 0);
+    nothing_->setProperty("type", QByteArray("field"));
+    nothing_->setProperty("role", QByteArray("nothing"));
+    nothing_->setFixedHeight(zoomed(titleHeight));
+    rows->addWidget(nothing_);
+    rows->addStretch(1);
+    return paper;
+}
+
+void ProblemDock::makeList() {
+    model_ = new ProblemModel(list_);
+    list_->setModel(model_);
+    list_->setItemDelegate(new RowDelegate(list_));
+    list_->setRootIsDecorated(false);
+    list_->setUniformRowHeights(true);
+    list_->setSelectionBehavior(QAbstractItemView::SelectRows);
+    list_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    list_->setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
+    list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    list_->setIconSize(QSize(markSize, markSize));
+    list_->setAccessibleName(windowTitle());
+    list_->setProperty("role", QByteArray("problems"));
+    list_->setFont(fontNamed("field"));
+    const QFontMetrics metrics(fontNamed("field"));
+    QHeaderView& head = *list_->header();
+    head.setFont(fontNamed("label"));
+    head.setSectionsMovable(false);
+    head.setSectionsClickable(false);
+    head.setStretchLastSection(false);
+    head.setMinimumSectionSize(zoomed(markSize + 2 * cellPadding));
+    head.setSectionResizeMode(QHeaderView::Fixed);
+    head.setSectionResizeMode(TextColumn, QHeaderView::Stretch);
+    head.resizeSection(IconColumn, zoomed(markSize + 2 * cellPadding));
+    head.resizeSection(PageColumn,
+        metrics.horizontalAdvance(QStringLiteral("รายการที่ 1 และ 2")) + 2 * zoomed(cellPadding) + 8);
+    // Two long amounts side by side; longer ones are in the tool tip of the row.
+    head.resizeSection(SidesColumn,
+        metrics.horizontalAdvance(QStringLiteral("99,999,999.99 / 99,999,999.99")) + 2 * zoomed(cellPadding));
+    head.resizeSection(DifferenceColumn,
+        metrics.horizontalAdvance(QStringLiteral("999,999,999.99")) + 2 * zoomed(cellPadding));
+    list_->installEventFilter(this);
+    connect(list_, &QTreeView::doubleClicked, this, [this](const QModelIndex& at) { choose(at.row()); });
+}
+
+void ProblemDock::refresh() {
+    const int row = list_->currentIndex().row();
+    const Refusal kept = row < 0 ? Refusal() : model_->problems().at(static_cast<std::size_t>(row)).refusal;
+    const std::vector<Problem>& problems = watch_.problems();
+    model_->show(problems);
+    if (const int same = model_->rowOf(kept); same >= 0) {
+        list_->setCurrentIndex(model_->index(same, TextColumn));
+    }
+    const bool clear = problems.empty();
+    count_->setVisible(watch_.hasReturn() && !clear);
+    count_->setText(QStringLiteral("ขวางการจัดเก็บ %1").arg(problems.size()));
+    nothing_->setVisible(watch_.hasReturn());
+    if (clear && hasFocusInside()) {
+        emit left(); // nothing is left to stand on
+    }
+    body_->setCurrentIndex(clear ? 1 : 0);
+}
+
+void ProblemDock::enter() {
+    show();
+    raise();
+    if (!watch_.problems().empty()) {
+        if (!list_->currentIndex().isValid()) {
+            list_->setCurrentIndex(model_->index(0, TextColumn));
+        }
+        list_->setFocus(Qt::ShortcutFocusReason);
+    }
+}
+
+bool ProblemDock::hasFocusInside() const { return list_->hasFocus(); }
+
+void ProblemDock::step(int step) {
+    const auto count = static_cast<int>(model_->problems().size());
+    if (count == 0) {
+        return;
+    }
+    const int row = list_->currentIndex().row();
+    const int next = row < 0 ? (step > 0 ? 0 : count - 1) : (row + step + count) % count;
+    list_->setCurrentIndex(model_->index(next, TextColumn));
+    choose(next);
+}
+
+void ProblemDock::choose(int row) {
+    if (row >= 0) {
+        const Problem problem = model_->problems().at(static_cast<std::size_t>(row)); // it may go on the way
+        emit chosen(problem);
+    }
+}
+
+bool ProblemDock::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != list_ || event->type() != QEvent::KeyPress) {
+        return QDockWidget::eventFilter(watched, event);
+    }
+    switch (static_cast<const QKeyEvent&>(*event).key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter: choose(list_->currentIndex().row()); return true;
+    case Qt::Key_Escape:
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab: emit left(); return true;
+    default: return false;
+    }
+}
+
+ProblemButton::ProblemButton(const ProblemWatch& watch) : watch_(watch) {
+    setObjectName(QStringLiteral("decorProblemButton"));
+    setProperty("type", QByteArray("label"));
+    setProperty("role", QByteArray("problems"));
+    setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    setIconSize(QSize(markSize, markSize));
+    setAutoRaise(true);
+    setFocusPolicy(Qt::NoFocus);
+    connect(&watch, &ProblemWatch::changed, this, &ProblemButton::refresh);
+    refresh();
+}
+
+void ProblemButton::refresh() {
+    const std::size_t count = watch_.problems().size();
+    const bool clear = count == 0;
+    setVisible(watch_.hasReturn());
+    setText(clear ? QStringLiteral("ไม่ติดขัด") : QStringLiteral("ติดขัด %1").arg(count));
+    setToolTip(QStringLiteral("รายการที่ยังติดขัด (F7)"));
+    setProperty("tone", QByteArray(clear ? "ok" : "stop"));
+    style()->unpolish(this);
+    style()->polish(this);
+    const QColor ink = clear ? okInk_ : palette().color(QPalette::BrightText);
+    setIcon(iconOf(clear ? QStringLiteral("whole") : QStringLiteral("stop"), ink, ink));
+    setIconSize(zoomed(QSize(markSize, markSize)));
+}
+
+} // namespace lodge
