@@ -12,12 +12,12 @@ namespace lodge {
 
 /// A use of type. A layout asks for it by name in the property "type" of a widget.
 struct Type {
-    const char* name;
-    const char* family;
-    int pixels;
-    bool bold;
+    const char* name = "";
+    const char* family = "";
+    int pixels = 0;
+    bool bold = false;
     /// The room that a line needs so that no mark above or below is cut.
-    int height;
+    int height = 0;
     /// What stands between the characters beyond their own widths.
     int spacing = 0;
 };

@@ -46,7 +46,7 @@ void frmLodgePage6_11::wireCells() {
         box.setTextKind(TextKind::Amount);
         box.onGotFocus = [&box] { showPlainDigits(box); };
         box.onKey = [this](const KeyPress& press) { keyPressed_ = keyPressed_ || counts(press.key); };
-        box.onChange = [this, cell] {
+        box.onChange = [this] {
             if (keyPressed_) showSum();
         };
         box.onLostFocus = [this, cell] { cellLeft(cell); };
