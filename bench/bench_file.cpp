@@ -127,16 +127,6 @@ void cliYardstick(benchmark::State& rounds) {
         runProgram({LODGE_OPEN_ARCHIVE, LODGE_RETURN});
 }
 
-// Many short repetitions in turn rather than one long one each: what else the machine does falls on both
-// sides alike.
-constexpr int repetitions = 15;
-constexpr double seconds = 0.05;
-
-struct Measurement {
-    const char* name;
-    void (*function)(benchmark::State&);
-};
-
 // clang-format off
 constexpr std::array measurements{
     Measurement{"encode", encode},
@@ -168,22 +158,5 @@ const std::array ratios{
 } // namespace
 
 int main(int argumentCount, char** argumentTexts) {
-    std::string interleaved = "--benchmark_enable_random_interleaving=true";
-    std::vector<char*> arguments(argumentTexts, argumentTexts + argumentCount);
-    arguments.insert(arguments.begin() + 1, interleaved.data());
-    int count = static_cast<int>(arguments.size());
-    benchmark::Initialize(&count, arguments.data());
-    if (benchmark::ReportUnrecognizedArguments(count, arguments.data())) return 2;
-    for (const Measurement& measurement : measurements) {
-        benchmark::RegisterBenchmark(measurement.name, measurement.function)
-            ->UseRealTime()
-            ->Unit(benchmark::kMicrosecond)
-            ->Repetitions(repetitions)
-            ->MinTime(seconds)
-            ->ReportAggregatesOnly(true);
-    }
-    RatioReporter reporter;
-    benchmark::RunSpecifiedBenchmarks(&reporter);
-    reporter.printRatios(ratios);
-    return 0;
+    return runMeasurements(argumentCount, argumentTexts, benchmark::kMicrosecond, measurements, ratios);
 }

@@ -201,14 +201,6 @@ void bareProcess(benchmark::State& rounds) {
     measure(rounds, [] { return runProgram({LODGE_BARE_PRINT, sample().list, "/dev/null"}); });
 }
 
-constexpr int repetitions = 15;
-constexpr double seconds = 0.05;
-
-struct Measurement {
-    const char* name;
-    void (*function)(benchmark::State&);
-};
-
 // clang-format off
 constexpr std::array measurements{
     Measurement{"ten-pages", tenPages},
@@ -236,23 +228,9 @@ const std::array ratios{
 } // namespace
 
 int main(int argumentCount, char** argumentTexts) {
-    std::string interleaved = "--benchmark_enable_random_interleaving=true";
-    std::vector<char*> arguments(argumentTexts, argumentTexts + argumentCount);
-    arguments.insert(arguments.begin() + 1, interleaved.data());
-    int count = static_cast<int>(arguments.size());
-    benchmark::Initialize(&count, arguments.data());
-    if (benchmark::ReportUnrecognizedArguments(count, arguments.data())) return 2;
-    for (const Measurement& measurement : measurements) {
-        benchmark::RegisterBenchmark(measurement.name, measurement.function)
-            ->UseRealTime()
-            ->Unit(benchmark::kMillisecond)
-            ->Repetitions(repetitions)
-            ->MinTime(seconds)
-            ->ReportAggregatesOnly(true);
-    }
-    RatioReporter reporter;
-    benchmark::RunSpecifiedBenchmarks(&reporter);
-    reporter.printRatios(ratios);
+    const int status =
+        runMeasurements(argumentCount, argumentTexts, benchmark::kMillisecond, measurements, ratios);
+    if (status != 0) return status;
     constexpr std::size_t aim = 300;
     const std::size_t size = sample().pdf.size() / 1024;
     fmt::print("\nten filled pages: {} KiB, aim {}{}\n", size, aim, size > aim ? "  missed" : "");

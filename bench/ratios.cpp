@@ -38,4 +38,28 @@ void RatioReporter::printRatios(std::span<const Ratio> ratios) const {
     }
 }
 
+int runMeasurements(int argumentCount, char** argumentTexts, benchmark::TimeUnit unit,
+    std::span<const Measurement> measurements, std::span<const Ratio> ratios) {
+    constexpr int repetitions = 15;
+    constexpr double seconds = 0.05;
+    std::string interleaved = "--benchmark_enable_random_interleaving=true";
+    std::vector<char*> arguments(argumentTexts, argumentTexts + argumentCount);
+    arguments.insert(arguments.begin() + 1, interleaved.data());
+    int count = static_cast<int>(arguments.size());
+    benchmark::Initialize(&count, arguments.data());
+    if (benchmark::ReportUnrecognizedArguments(count, arguments.data())) return 2;
+    for (const Measurement& measurement : measurements) {
+        benchmark::RegisterBenchmark(measurement.name, measurement.function)
+            ->UseRealTime()
+            ->Unit(unit)
+            ->Repetitions(repetitions)
+            ->MinTime(seconds)
+            ->ReportAggregatesOnly(true);
+    }
+    RatioReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    reporter.printRatios(ratios);
+    return 0;
+}
+
 } // namespace lodge::bench

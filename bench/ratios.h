@@ -41,4 +41,16 @@ class RatioReporter : public benchmark::ConsoleReporter {
     std::map<std::string, Times, std::less<>> medians;
 };
 
+/// One measurement of a program by its name.
+struct Measurement {
+    const char* name;
+    void (*function)(benchmark::State&);
+};
+
+/// What `main` of a benchmark does: the measurements in many short repetitions that take turns, rather than
+/// one long one each, so that what else the machine does falls on both sides of a ratio; then the ratios. The
+/// exit status of the program, not 0 when its arguments are not understood.
+int runMeasurements(int argumentCount, char** argumentTexts, benchmark::TimeUnit unit,
+    std::span<const Measurement> measurements, std::span<const Ratio> ratios);
+
 } // namespace lodge::bench
