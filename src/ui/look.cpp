@@ -97,8 +97,8 @@ Look::Look(QApplication& application, const Theme& theme) : application_(applica
     }
     // NOLINTBEGIN(clang-analyzer-cplusplus.NewDeleteLeaks): the application owns its style.
     QApplication::setStyle(new LodgeStyle);
-    // NOLINTEND(clang-analyzer-cplusplus.NewDeleteLeaks)
     wear();
+    // NOLINTEND(clang-analyzer-cplusplus.NewDeleteLeaks)
     application.installEventFilter(this);
     connect(&application, &QApplication::focusChanged, this,
         [this](QWidget* /*old*/, QWidget* now) { moveRing(now); });
