@@ -125,9 +125,7 @@ std::optional<PageRange> SessionHost::choosePages() {
     return takeFirst(pages_);
 }
 
-std::chrono::year_month_day SessionHost::today() const {
-    return today_ ? *today_ : machineToday();
-}
+std::chrono::year_month_day SessionHost::today() const { return today_ ? *today_ : machineToday(); }
 
 std::string SessionHost::environment(const std::string& name) const {
     const auto set = environment_.find(name);
