@@ -282,8 +282,7 @@ void Binder::markFields() {
     std::map<std::string, QString> messages;
     for (const Problem& problem : problems_->problems()) {
         if (problem.page == row->code) {
-            messages.emplace(problem.refusal.control,
-                QString::fromStdString(onOneLine(problem.refusal.text)).simplified());
+            messages.emplace(problem.refusal.control, textOf(problem));
         }
     }
     page->showProblems(messages);

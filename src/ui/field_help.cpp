@@ -1,10 +1,12 @@
 #include "ui/field_help.h"
 
 #include "controls/form.h"
+#include "pages/fields/small_company.h"
 #include "pages/schedules/item12_page.h"
 #include "pages/schedules/item3_page.h"
 #include "pages/schedules/schedule.h"
 #include "ui/amount_captions.h"
+#include "values/money.h"
 
 #include <fmt/format.h>
 
@@ -155,7 +157,8 @@ std::string helpOnBalance(const Control& control) {
             if (line.number == registeredCapital) {
                 paragraphs.add("ต้องไม่น้อยกว่าทุนที่ออกและชำระแล้ว");
             } else if (line.number == paidCapital) {
-                paragraphs.add("ต้องไม่เกินทุนจดทะเบียน อัตราภาษีของกิจการขนาดเล็กใช้ได้เมื่อไม่เกิน 5,000,000 บาท");
+                paragraphs.add("ต้องไม่เกินทุนจดทะเบียน อัตราภาษีของกิจการขนาดเล็กใช้ได้เมื่อไม่เกิน "
+                               + formatMoney(largestSmallCapital) + " บาท");
             }
             paragraphs.add("รวมสินทรัพย์ต้องเท่ากับรวมหนี้สินและส่วนของผู้ถือหุ้น");
             return std::move(paragraphs).text();

@@ -15,9 +15,7 @@ namespace {
 constexpr int margin = 16;
 constexpr int gap = 16;
 constexpr int lineStep = 48;
-// The paper of the form, A4, in inches, and how many logical pixels a screen has on one.
-constexpr double paperWidth = 210 / 25.4;
-constexpr double paperHeight = 297 / 25.4;
+/// The logical pixels of a screen on an inch.
 constexpr double screenPixels = 96;
 /// Wider differences than this show as blur.
 constexpr double sameSize = 0.005;

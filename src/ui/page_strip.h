@@ -15,6 +15,10 @@
 
 namespace lodge {
 
+// The paper of the form, A4, in inches.
+inline constexpr double paperWidth = 210 / 25.4;
+inline constexpr double paperHeight = 297 / 25.4;
+
 class PageStrip : public QAbstractScrollArea {
     Q_OBJECT
 

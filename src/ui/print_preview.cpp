@@ -34,7 +34,6 @@ constexpr int statusHeight = 28;
 constexpr int listWidth = 172;
 constexpr QSize thumbnailSize{62, 88};
 constexpr int thumbnailRow = 100;
-constexpr double thumbnailInches = 210 / 25.4;
 /// Small letters are drawn larger and made smaller: so they become grey lines instead of a jumble.
 constexpr int finer = 3;
 constexpr int progressWidth = 160;
@@ -231,7 +230,7 @@ void PrintPreview::drawThumbnail() {
         return;
     }
     const double scale = devicePixelRatioF();
-    const QImage page = draw(nextThumbnail_, finer * scale * thumbnailSize.width() / thumbnailInches);
+    const QImage page = draw(nextThumbnail_, finer * scale * thumbnailSize.width() / paperWidth);
     if (!page.isNull()) {
         QPixmap small = QPixmap::fromImage(
             page.scaled(thumbnailSize * scale, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));

@@ -37,10 +37,6 @@ const std::array<QString, ColumnCount> heads = {QString(), QStringLiteral("à¸«à¸
 
 QString money(double amount) { return QString::fromStdString(formatBracket(amount)); }
 
-QString textOf(const Problem& problem) {
-    return QString::fromStdString(onOneLine(problem.refusal.text)).simplified();
-}
-
 QString sidesOf(const Problem& problem) {
     const auto& sides = problem.refusal.sides;
     return sides ? QStringLiteral("%1 / %2").arg(money(sides->here), money(sides->there)) : QString();

@@ -11,6 +11,10 @@ Today todayOf(const Host& host) { return {host.today(), host.calendar()}; }
 
 } // namespace
 
+QString textOf(const Problem& problem) {
+    return QString::fromStdString(onOneLine(problem.refusal.text)).simplified();
+}
+
 ProblemWatch::ProblemWatch(Program& program, std::function<bool()> mayLook)
     : program_(program), mayLook_(std::move(mayLook)), lister_(todayOf(program.host())) {
     timer_.setSingleShot(true);

@@ -14,6 +14,9 @@
 
 namespace lodge {
 
+/// What stands in the way, on one line without doubled blanks.
+[[nodiscard]] QString textOf(const Problem& problem);
+
 class ProblemWatch : public QObject, public DeskObserver {
     Q_OBJECT
 
