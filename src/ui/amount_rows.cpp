@@ -1,6 +1,7 @@
 #include "ui/amount_rows.h"
 
 #include "ui/amount_page.h"
+#include "ui/dress.h"
 #include "ui/link_label.h"
 #include "ui/tick_box.h"
 #include "ui/tie_tag.h"
@@ -37,11 +38,6 @@ int widthOf(const char* type, const char* text) {
 /// The widest number of a line, "75.13", and the gap behind it.
 int numberWidth() { return widthOf("heading", "75.13") + 8; }
 
-void repolish(QWidget& widget) {
-    widget.style()->unpolish(&widget);
-    widget.style()->polish(&widget);
-}
-
 AmountRow* rowAround(QWidget* widget) {
     while (widget != nullptr && qobject_cast<AmountRow*>(widget) == nullptr) {
         widget = widget->parentWidget();
@@ -51,8 +47,7 @@ AmountRow* rowAround(QWidget* widget) {
 
 void tint(QWidget* focused, bool inHand) {
     if (AmountRow* row = rowAround(focused)) {
-        row->setProperty("row", inHand ? QByteArray("hand") : QByteArray());
-        repolish(*row);
+        setWorn(*row, "row", inHand ? "hand" : "");
     }
 }
 

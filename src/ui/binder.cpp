@@ -165,7 +165,6 @@ FormView& Binder::viewFor(Form& form) {
     } else {
         placePage(root);
     }
-    // Only now: a style sheet takes the fonts away from widgets that change their window.
     look_.dress(root);
     view->paintAgain(); // the places of points depend on the font
     if (auto* dialog = qobject_cast<QDialog*>(&root)) {

@@ -2,6 +2,7 @@
 
 #include "ui/item_marks.h"
 #include "ui/look.h"
+#include "ui/theme.h"
 #include "ui/type.h"
 
 #include <QEvent>
@@ -74,8 +75,8 @@ bool CardButton::event(QEvent* event) {
 
 QColor CardButton::stateInk() const {
     switch (state_.progress) {
-    case ItemProgress::Clear: return okInk_;
-    case ItemProgress::Named: return warnInk_;
+    case ItemProgress::Clear: return palette().color(ink::ok);
+    case ItemProgress::Named: return palette().color(ink::warn);
     case ItemProgress::InTheWay: return palette().color(QPalette::BrightText);
     default: return palette().color(QPalette::PlaceholderText);
     }

@@ -12,9 +12,6 @@ namespace lodge {
 class CardButton : public QAbstractButton {
     Q_OBJECT
     Q_PROPERTY(QString subject READ subject WRITE setSubject)
-    // The inks of what the card says of its item; the style sheet gives them.
-    Q_PROPERTY(QColor okInk MEMBER okInk_)
-    Q_PROPERTY(QColor warnInk MEMBER warnInk_)
 
   public:
     explicit CardButton(QWidget* parent = nullptr);
@@ -45,8 +42,6 @@ class CardButton : public QAbstractButton {
     QString subject_;
     ItemState state_;
     QString stateText_;
-    QColor okInk_;
-    QColor warnInk_;
 };
 
 } // namespace lodge

@@ -1,13 +1,13 @@
 #include "ui/control_view.h"
 
 #include "ui/box_views.h"
+#include "ui/dress.h"
 #include "ui/list_views.h"
 #include "ui/press_views.h"
 #include "ui/show_views.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QStyle>
 
 namespace lodge {
 
@@ -99,16 +99,7 @@ void ControlView::showProblem(const QString& message) {
     }
 }
 
-void ControlView::setState(const char* state) {
-    const QByteArray next(state);
-    if (widget_->property("state").toByteArray() != next) {
-        widget_->setProperty("state", next);
-        const QFont font = widget_->font();
-        widget_->style()->unpolish(widget_);
-        widget_->style()->polish(widget_);
-        widget_->setFont(font); // which a style sheet takes away
-    }
-}
+void ControlView::setState(const char* state) { setWorn(*widget_, "state", state); }
 
 bool ControlView::come() {
     if (control_->hasFocus()) {

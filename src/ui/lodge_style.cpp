@@ -1,14 +1,24 @@
 #include "ui/lodge_style.h"
 
+#include "ui/dress.h"
 #include "ui/tick_box.h"
 #include "ui/type.h"
 
 #include <QAbstractItemView>
+#include <QComboBox>
+#include <QDialog>
 #include <QFocusFrame>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
 #include <QPainter>
+#include <QPlainTextEdit>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QStyleFactory>
 #include <QStyleOption>
 #include <QToolButton>
+#include <QToolTip>
 
 #include <algorithm>
 
@@ -25,6 +35,19 @@ constexpr int comboIndent = 6; // the entry of a closed list begins where the te
 /// The ring stands this far off what it is around.
 constexpr int ringGap = 2;
 constexpr int ringWidth = 2;
+/// Between the border of a field and what the toolkit puts into it.
+constexpr int fieldPadding = 8;
+constexpr int fieldRadius = 3;
+constexpr int statusHeight = 28;
+constexpr int headHeight = 28;
+constexpr int scrollBarWidth = 12;
+constexpr int leastHandle = 32;
+/// What stands free around the handle of a scroll bar.
+constexpr int handleGap = 2;
+/// Around the rows of a list: room for the border that it has with the focus.
+constexpr int viewFrame = 2;
+/// Around the rows of a list of pages, that border in it.
+constexpr int pagesPadding = 4;
 
 struct Paint {
     QColor ground;
@@ -77,13 +100,85 @@ void drawChoice(const QStyleOption& option, QPainter& painter) {
     }
 }
 
-QString roleOf(const QWidget* widget) {
-    return widget == nullptr ? QString() : widget->property("role").toString();
+QByteArray roleOf(const QWidget* widget) {
+    return widget == nullptr ? QByteArray() : widget->property("role").toByteArray();
+}
+
+void drawRounded(
+    QPainter& painter, const QRectF& rect, const QBrush& ground, const QPen& line, qreal radius) {
+    const qreal inset = line.style() == Qt::NoPen ? 0 : line.widthF() / 2;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(line);
+    painter.setBrush(ground);
+    painter.drawRoundedRect(rect.adjusted(inset, inset, -inset, -inset), radius, radius);
+    painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
+/// What a dress takes at the sides of a widget.
+QMargins marginsOf(const Dress& dress) {
+    const auto side = [](int line, int padding) { return line + zoomed(padding); };
+    return {side(dress.lines.left, dress.padding.left), side(dress.lines.top, dress.padding.top),
+        side(dress.lines.right, dress.padding.right), side(dress.lines.bottom, dress.padding.bottom)};
+}
+
+/// What a field with a border leaves for its text.
+QRect insideOfField(const QRect& rect) {
+    const int side = 1 + zoomed(fieldPadding);
+    return rect.adjusted(side, 1, -side, -1);
+}
+
+void drawLines(QPainter& painter, const QRect& rect, const Edges& lines, const QColor& colour) {
+    painter.fillRect(QRect(rect.left(), rect.top(), lines.left, rect.height()), colour);
+    painter.fillRect(QRect(rect.left(), rect.top(), rect.width(), lines.top), colour);
+    painter.fillRect(QRect(rect.right() - lines.right + 1, rect.top(), lines.right, rect.height()), colour);
+    painter.fillRect(
+        QRect(rect.left(), rect.bottom() - lines.bottom + 1, rect.width(), lines.bottom), colour);
+}
+
+/// What the text of a head stands further in than the toolkit has it.
+int headPadding(const QStyle& style) {
+    return zoomed(fieldPadding) - style.pixelMetric(QStyle::PM_HeaderMargin);
+}
+
+bool isField(const QWidget* widget) { return qobject_cast<const QPlainTextEdit*>(widget) != nullptr; }
+
+bool isView(const QWidget* widget) {
+    return qobject_cast<const QAbstractItemView*>(widget) != nullptr
+           && qobject_cast<const QHeaderView*>(widget) == nullptr;
+}
+
+/// Has a frame ask the style again what it leaves for its inside, which it does by itself only once.
+void measureAgain(QFrame& frame) {
+    const QSizePolicy policy = frame.sizePolicy(); // which goes with the frame's own
+    const bool own = frame.testAttribute(Qt::WA_WState_OwnSizePolicy);
+    frame.setFrameStyle(frame.frameStyle());
+    frame.setSizePolicy(policy);
+    frame.setAttribute(Qt::WA_WState_OwnSizePolicy, own);
+}
+
+/// The measures that go with a role.
+void polishMeasures(QWidget& widget) {
+    const QByteArray role = roleOf(&widget);
+    const bool field = widget.inherits("QLineEdit") || widget.inherits("QAbstractSpinBox");
+    const bool figure = widget.inherits("QLabel") && widget.property("state").toByteArray() == "computed";
+    if (field || figure) {
+        widget.setMinimumHeight(zoomed(fieldHeight));
+    } else if (widget.inherits("QStatusBar")) {
+        widget.setMinimumHeight(zoomed(statusHeight));
+    } else if (role == "rule") {
+        widget.setFixedHeight(1);
+    } else if (role == "upright") {
+        widget.setFixedWidth(1);
+    }
+}
+
+bool isPopup(const QWidget& view) {
+    return view.parentWidget() != nullptr
+           && qobject_cast<QComboBox*>(view.parentWidget()->parentWidget()) != nullptr;
 }
 
 bool isMain(const QStyleOptionButton& option, const QWidget* widget) {
-    return (option.features & QStyleOptionButton::DefaultButton) != 0
-           || roleOf(widget) == QLatin1String("main");
+    return (option.features & QStyleOptionButton::DefaultButton) != 0 || roleOf(widget) == "main";
 }
 
 Paint buttonPaint(const QStyleOptionButton& option, const QWidget* widget) {
@@ -99,9 +194,9 @@ Paint buttonPaint(const QStyleOptionButton& option, const QWidget* widget) {
         const QColor fill = sunken ? form.darker(118) : hovered ? form.lighter(112) : form;
         return {fill, fill, palette.color(QPalette::Light)};
     }
-    const QColor ink = roleOf(widget) == QLatin1String("danger") ? palette.color(QPalette::BrightText)
-                                                                 : palette.color(QPalette::ButtonText);
-    const QColor border = roleOf(widget) == QLatin1String("danger") ? ink : palette.color(QPalette::Dark);
+    const QColor ink = roleOf(widget) == "danger" ? palette.color(QPalette::BrightText)
+                                                  : palette.color(QPalette::ButtonText);
+    const QColor border = roleOf(widget) == "danger" ? ink : palette.color(QPalette::Dark);
     const QColor fill = palette.color(sunken    ? QPalette::Midlight
                                       : hovered ? QPalette::AlternateBase
                                                 : QPalette::Light);
@@ -127,34 +222,204 @@ void drawButtonLabel(const QStyleOptionButton& button, const QColor& ink, QPaint
         Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, button.text);
 }
 
+/// Without arrows: the handle has the whole length.
+QRect scrollBarPart(const QStyleOptionSlider& bar, QStyle::SubControl part) {
+    const bool across = bar.orientation == Qt::Horizontal;
+    const int length = across ? bar.rect.width() : bar.rect.height();
+    const int range = bar.maximum - bar.minimum;
+    const auto share = range == 0
+                           ? length
+                           : static_cast<int>(qint64(length) * bar.pageStep / (qint64(range) + bar.pageStep));
+    const int handle = std::clamp(share, std::min(zoomed(leastHandle), length), length);
+    const int start = QStyle::sliderPositionFromValue(
+        bar.minimum, bar.maximum, bar.sliderPosition, length - handle, bar.upsideDown);
+    const auto stretch = [&](int from, int to) {
+        return across ? QRect(bar.rect.left() + from, bar.rect.top(), to - from, bar.rect.height())
+                      : QRect(bar.rect.left(), bar.rect.top() + from, bar.rect.width(), to - from);
+    };
+    switch (part) {
+    case QStyle::SC_ScrollBarGroove: return bar.rect;
+    case QStyle::SC_ScrollBarSlider: return stretch(start, start + handle);
+    case QStyle::SC_ScrollBarSubPage: return stretch(0, start);
+    case QStyle::SC_ScrollBarAddPage: return stretch(start + handle, length);
+    default: return {};
+    }
+}
+
 } // namespace
 
-LodgeStyle::LodgeStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+LodgeStyle::LodgeStyle(const Theme& theme)
+    : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))), theme_(theme) {}
+
+void LodgeStyle::polish(QWidget* widget) {
+    QProxyStyle::polish(widget);
+    polishMeasures(*widget);
+    if (auto* label = qobject_cast<QLabel*>(widget)) {
+        label->setForegroundRole(inkOf(*label));
+    }
+    if (auto* frame = qobject_cast<QFrame*>(widget)) {
+        const Dress* dress = dressOf(*widget);
+        if (dress != nullptr || qobject_cast<QAbstractScrollArea*>(frame) != nullptr) {
+            measureAgain(*frame);
+        }
+        if (isView(frame)) {
+            polishView(*frame);
+        } else if (auto* lines = qobject_cast<QPlainTextEdit*>(frame)) {
+            lines->viewport()->setAutoFillBackground(false); // the frame fills it
+        }
+    } else if (qobject_cast<QLineEdit*>(widget) != nullptr) {
+        if (widget->parentWidget() != nullptr && liesIn(*widget, "ledger")) {
+            QPalette palette = widget->palette(); // its closed fields are there to be read
+            palette.setColor(QPalette::Disabled, QPalette::Text, colour(&Theme::ink));
+            widget->setPalette(palette);
+        }
+    } else if (auto* bar = qobject_cast<QScrollBar*>(widget)) {
+        bar->setAttribute(Qt::WA_OpaquePaintEvent, false);
+    } else if (roleOf(widget) == "paper") {
+        widget->setBackgroundRole(QPalette::Light);
+        widget->setAutoFillBackground(true);
+    } else if (qobject_cast<QDialog*>(widget) != nullptr && roleOf(widget) != "ground") {
+        QPalette palette = widget->palette();
+        palette.setColor(QPalette::Window, colour(&Theme::paper));
+        widget->setPalette(palette);
+    }
+}
+
+void LodgeStyle::polishView(QWidget& view) const {
+    const QByteArray role = roleOf(&view);
+    QPalette palette = view.palette();
+    if (role == "problems" || isPopup(view)) {
+        palette.setColor(QPalette::Base, colour(&Theme::paper));
+    } else if (role == "pages") {
+        palette.setColor(QPalette::Base, colour(&Theme::chrome));
+    }
+    palette.setColor(QPalette::Highlight, colour(&Theme::select));
+    palette.setColor(QPalette::HighlightedText, colour(&Theme::ink));
+    view.setPalette(palette);
+}
+
+void LodgeStyle::drawFrame(const QStyleOption& option, QPainter& painter, const QWidget& widget) const {
+    const Dress* dress = dressOf(widget);
+    if (dress == nullptr) {
+        return;
+    }
+    Rgb Theme::*const ground = groundOf(*dress, widget);
+    if (dress->radius > 0) {
+        const QBrush brush = ground == nullptr ? QBrush(Qt::NoBrush) : QBrush(colour(ground));
+        const QPen pen =
+            dress->line == nullptr ? QPen(Qt::NoPen) : QPen(colour(dress->line), dress->lines.left);
+        drawRounded(painter, option.rect, brush, pen, zoomed(dress->radius));
+        return;
+    }
+    if (ground != nullptr) {
+        painter.fillRect(option.rect, colour(ground));
+    }
+    if (dress->line != nullptr) {
+        drawLines(painter, option.rect, dress->lines, colour(dress->line));
+    }
+}
+
+void LodgeStyle::drawField(const QStyleOption& option, QPainter& painter, const QWidget& widget) const {
+    const FieldDress dress = fieldDressOf(widget, option.state);
+    drawRounded(painter, option.rect, colour(dress.ground), QPen(colour(dress.line), dress.width),
+        zoomed(fieldRadius));
+}
+
+void LodgeStyle::drawView(const QStyleOption& option, QPainter& painter, const QWidget& widget) const {
+    const bool focused = widget.hasFocus();
+    const QByteArray role = roleOf(&widget);
+    const bool plain = role == "problems" || role == "pages"; // without a border of their own
+    const QColor ground = widget.palette().color(QPalette::Base);
+    const QColor line = focused              ? colour(&Theme::focus)
+                        : plain              ? ground
+                        : widget.isEnabled() ? colour(&Theme::edge)
+                                             : colour(&Theme::rule);
+    drawRounded(
+        painter, option.rect, ground, QPen(line, focused ? ringWidth : 1), plain ? 0 : zoomed(fieldRadius));
+}
+
+void LodgeStyle::drawHead(const QStyleOption& option, QPainter& painter, const QWidget* widget) const {
+    const bool onPaper = widget != nullptr && roleOf(widget->parentWidget()) == "problems";
+    painter.fillRect(option.rect, colour(onPaper ? &Theme::paper : &Theme::band));
+    drawLines(painter, option.rect, {0, 0, 0, 1}, colour(&Theme::rule));
+}
+
+void LodgeStyle::drawScrollBar(
+    const QStyleOptionComplex& option, QPainter& painter, const QWidget* widget) const {
+    const bool held = option.activeSubControls == SC_ScrollBarSlider
+                      && (option.state & (State_MouseOver | State_Sunken)) != 0;
+    const QRect handle = subControlRect(CC_ScrollBar, &option, SC_ScrollBarSlider, widget);
+    drawRounded(painter, handle.adjusted(handleGap, handleGap, -handleGap, -handleGap),
+        colour(held ? &Theme::edge : &Theme::rule), Qt::NoPen, zoomed(scrollBarWidth) / 2.0 - handleGap);
+}
 
 void LodgeStyle::drawPrimitive(
     PrimitiveElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const {
-    const bool ringed = qobject_cast<const QAbstractButton*>(widget) != nullptr
-                        || qobject_cast<const QAbstractItemView*>(widget) != nullptr;
-    if (element == PE_FrameFocusRect && ringed) {
-        return; // the ring stands around the button, the whole list
-    }
-    if (element != PE_IndicatorCheckBox && element != PE_IndicatorRadioButton) {
-        QProxyStyle::drawPrimitive(element, option, painter, widget);
+    switch (element) {
+    case PE_FrameFocusRect:
+        // The ring stands around the button, the whole list.
+        if (qobject_cast<const QAbstractButton*>(widget) == nullptr && !isView(widget)) break;
+        return;
+    case PE_PanelLineEdit: {
+        const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+        // One that stands in another widget has no frame of its own.
+        if (frame != nullptr && frame->lineWidth > 0 && widget != nullptr) {
+            drawField(*option, *painter, *widget);
+        }
         return;
     }
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    if (element == PE_IndicatorCheckBox) {
-        drawTick(*option, *painter);
-    } else {
-        drawChoice(*option, *painter);
+    case PE_PanelStatusBar: painter->fillRect(option->rect, colour(&Theme::chrome)); return;
+    case PE_FrameStatusBarItem: return;
+    case PE_PanelTipLabel:
+        painter->fillRect(option->rect, colour(&Theme::paper));
+        drawLines(*painter, option->rect, {1, 1, 1, 1}, colour(&Theme::edge));
+        return;
+    case PE_IndicatorCheckBox:
+    case PE_IndicatorRadioButton:
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        if (element == PE_IndicatorCheckBox) {
+            drawTick(*option, *painter);
+        } else {
+            drawChoice(*option, *painter);
+        }
+        painter->restore();
+        return;
+    default: break;
     }
-    painter->restore();
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
 }
 
 void LodgeStyle::drawControl(
     ControlElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const {
     const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    if (element == CE_ShapedFrame && widget != nullptr) {
+        if (isView(widget)) {
+            drawView(*option, *painter, *widget);
+            return;
+        }
+        if (isField(widget)) {
+            drawField(*option, *painter, *widget);
+            return;
+        }
+        if (dressOf(*widget) != nullptr || qobject_cast<const QScrollArea*>(widget) != nullptr) {
+            drawFrame(*option, *painter, *widget);
+            return;
+        }
+    }
+    if (element == CE_HeaderSection || element == CE_HeaderEmptyArea) {
+        drawHead(*option, *painter, widget);
+        return;
+    }
+    const auto* head = qstyleoption_cast<const QStyleOptionHeader*>(option);
+    if (element == CE_HeaderLabel && head != nullptr) {
+        QStyleOptionHeader soft(*head);
+        soft.palette.setColor(QPalette::ButtonText, colour(&Theme::ink2));
+        const int padding = headPadding(*this);
+        soft.rect.adjust(padding, 0, -padding, 0);
+        QProxyStyle::drawControl(element, &soft, painter, widget);
+        return;
+    }
     if (element == CE_PushButtonBevel && button != nullptr) {
         const Paint paint = buttonPaint(*button, widget);
         painter->save();
@@ -193,6 +458,25 @@ void LodgeStyle::drawControl(
 
 void LodgeStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
     QPainter* painter, const QWidget* widget) const {
+    if (control == CC_ScrollBar) {
+        drawScrollBar(*option, *painter, widget);
+        return;
+    }
+    if (control == CC_ToolButton && widget != nullptr && dressOf(*widget) != nullptr) {
+        QStyleOptionToolButton tool(*static_cast<const QStyleOptionToolButton*>(option));
+        drawFrame(*option, *painter, *widget);
+        if ((tool.state & State_MouseOver) != 0) {
+            painter->fillRect(tool.rect.marginsRemoved(marginsOf(*dressOf(*widget))), colour(&Theme::band));
+        }
+        tool.palette.setColor(QPalette::ButtonText, tool.palette.color(inkOf(*widget)));
+        tool.rect = tool.rect.marginsRemoved(marginsOf(*dressOf(*widget)));
+        drawControl(CE_ToolButtonLabel, &tool, painter, widget);
+        return;
+    }
+    if (control == CC_SpinBox && widget != nullptr) {
+        drawField(*option, *painter, *widget);
+        return;
+    }
     const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
     if (control != CC_ComboBox || combo == nullptr || combo->editable) {
         QProxyStyle::drawComplexControl(control, option, painter, widget);
@@ -219,8 +503,40 @@ void LodgeStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
     painter->restore();
 }
 
+QRect LodgeStyle::subElementRect(
+    SubElement element, const QStyleOption* option, const QWidget* widget) const {
+    if (element == SE_ShapedFrameContents && widget != nullptr) {
+        const QRect rect = option->rect;
+        if (isView(widget)) {
+            const int room = roleOf(widget) == "pages" ? zoomed(pagesPadding) : viewFrame;
+            return rect.adjusted(room, room, -room, -room);
+        }
+        if (isField(widget)) {
+            return insideOfField(rect);
+        }
+        if (const Dress* dress = dressOf(*widget)) {
+            return rect.marginsRemoved(marginsOf(*dress));
+        }
+        if (qobject_cast<const QScrollArea*>(widget) != nullptr) {
+            return rect;
+        }
+    }
+    const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+    if (element == SE_LineEditContents && frame != nullptr && frame->lineWidth > 0) {
+        return insideOfField(option->rect);
+    }
+    return QProxyStyle::subElementRect(element, option, widget);
+}
+
 QRect LodgeStyle::subControlRect(
     ComplexControl control, const QStyleOptionComplex* option, SubControl part, const QWidget* widget) const {
+    if (const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+        control == CC_ScrollBar && bar != nullptr) {
+        return scrollBarPart(*bar, part);
+    }
+    if (control == CC_SpinBox && part == SC_SpinBoxEditField) {
+        return insideOfField(option->rect);
+    }
     const QRect rect = QProxyStyle::subControlRect(control, option, part, widget);
     const bool entry = control == CC_ComboBox && part == SC_ComboBoxEditField;
     return entry ? rect.adjusted(zoomed(comboIndent), 0, 0, 0) : rect;
@@ -240,7 +556,9 @@ int LodgeStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
     case PM_ButtonShiftVertical: return 0;
     case PM_SmallIconSize:
     case PM_ButtonIconSize: return zoomed(20);
-    case PM_ScrollBarExtent: return 12;
+    case PM_ScrollBarExtent: return zoomed(scrollBarWidth);
+    case PM_ScrollBarSliderMin: return zoomed(leastHandle);
+    case PM_ToolTipLabelFrameWidth: return zoomed(4);
     default: return QProxyStyle::pixelMetric(metric, option, widget);
     }
 }
@@ -253,9 +571,18 @@ QSize LodgeStyle::sizeFromContents(
         return {size.width() + zoomed(2 * buttonPadding + (hasIcon ? iconGap : 0)),
             std::max(size.height(), zoomed(buttonHeight))};
     }
+    if (type == CT_LineEdit || type == CT_SpinBox) {
+        return {
+            size.width() + 2 * (zoomed(fieldPadding) + 1), std::max(size.height() + 2, zoomed(fieldHeight))};
+    }
+    if (type == CT_ToolButton && widget != nullptr && dressOf(*widget) != nullptr) {
+        return size.grownBy(marginsOf(*dressOf(*widget)));
+    }
     QSize fitting = QProxyStyle::sizeFromContents(type, option, size, widget);
     if (type == CT_ComboBox) {
         fitting.setHeight(zoomed(fieldHeight));
+    } else if (type == CT_HeaderSection) {
+        fitting = QSize(fitting.width() + 2 * headPadding(*this), zoomed(headHeight) + 1);
     }
     return fitting;
 }
@@ -269,6 +596,7 @@ int LodgeStyle::styleHint(
     case SH_EtchDisabledText:
     case SH_DialogButtonBox_ButtonsHaveIcons: return 0;
     case SH_UnderlineShortcut: return 0;
+    case SH_Table_GridLineColor: return static_cast<int>(colour(&Theme::rule).rgba());
     default: return QProxyStyle::styleHint(hint, option, widget, data);
     }
 }

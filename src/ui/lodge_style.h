@@ -1,5 +1,10 @@
-// Draws what a style sheet draws badly: buttons, ticks, choices and the ring around them.
+// Draws everything that the program shows: what a widget wears by its properties, fields, buttons, ticks,
+// lists, scroll bars, and the one ring around what has the focus.
+//
+// A style of code rather than a style sheet: pages of a hundred fields come up in a third of the time.
 #pragma once
+
+#include "ui/theme.h"
 
 #include <QProxyStyle>
 
@@ -9,7 +14,10 @@ class LodgeStyle : public QProxyStyle {
     Q_OBJECT
 
   public:
-    LodgeStyle();
+    explicit LodgeStyle(const Theme& theme);
+
+    using QProxyStyle::polish;
+    void polish(QWidget* widget) override;
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
         const QWidget* widget = nullptr) const override;
@@ -17,6 +25,8 @@ class LodgeStyle : public QProxyStyle {
         const QWidget* widget = nullptr) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
         const QWidget* widget = nullptr) const override;
+    QRect subElementRect(
+        SubElement element, const QStyleOption* option, const QWidget* widget = nullptr) const override;
     QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
         const QWidget* widget = nullptr) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption* option = nullptr,
@@ -25,6 +35,17 @@ class LodgeStyle : public QProxyStyle {
         const QWidget* widget = nullptr) const override;
     int styleHint(StyleHint hint, const QStyleOption* option = nullptr, const QWidget* widget = nullptr,
         QStyleHintReturn* data = nullptr) const override;
+
+  private:
+    void drawFrame(const QStyleOption& option, QPainter& painter, const QWidget& widget) const;
+    void drawField(const QStyleOption& option, QPainter& painter, const QWidget& widget) const;
+    void drawView(const QStyleOption& option, QPainter& painter, const QWidget& widget) const;
+    void drawHead(const QStyleOption& option, QPainter& painter, const QWidget* widget) const;
+    void drawScrollBar(const QStyleOptionComplex& option, QPainter& painter, const QWidget* widget) const;
+    void polishView(QWidget& view) const;
+    [[nodiscard]] QColor colour(Rgb Theme::*which) const { return toColor(theme_.*which); }
+
+    const Theme& theme_;
 };
 
 } // namespace lodge

@@ -6,10 +6,11 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QFile>
+#include <QIconEngine>
 #include <QLabel>
 #include <QPainter>
-#include <QRegularExpression>
+#include <QPixmapCache>
+#include <QToolTip>
 
 #include <algorithm>
 
@@ -20,71 +21,66 @@ namespace lodge {
 
 namespace {
 
-/// The measures of the style sheet at a zoom.
-QString zoomedSheet(const QString& sheet, double zoom) {
-    static const QRegularExpression measure(QStringLiteral("(?:\\{(\\d+)-(\\d+)\\}|\\b(\\d+))px"));
-    constexpr int widestLine = 3;
-    QString zoomed;
-    qsizetype at = 0;
-    for (auto matches = measure.globalMatch(sheet); matches.hasNext();) {
-        const QRegularExpressionMatch match = matches.next();
-        const int whole = match.captured(1).toInt() + match.captured(3).toInt();
-        const int drawn = whole <= widestLine ? whole : qRound(whole * zoom);
-        zoomed += sheet.mid(at, match.capturedStart() - at);
-        zoomed += QStringLiteral("%1px").arg(drawn - match.captured(2).toInt());
-        at = match.capturedEnd();
-    }
-    return zoomed + sheet.mid(at);
-}
+constexpr int iconSize = 20;
 
-QString styleSheetOf(const Theme& theme) {
-    QFile file(QStringLiteral(":/ui/style.qss"));
-    file.open(QIODevice::ReadOnly);
-    QString sheet = QString::fromUtf8(file.readAll());
-    for (const ThemeColour& colour : themeColours) {
-        const QRegularExpression name(QStringLiteral("@%1\\b").arg(QLatin1String(colour.name)));
-        sheet.replace(name, toColor(theme.*colour.colour).name());
-    }
-    return sheet;
-}
+/// One icon: the stencil of its name, filled with a colour the moment that it is asked for.
+class StencilEngine : public QIconEngine {
+  public:
+    StencilEngine(const QString& name, const QColor& open, const QColor& closed)
+        : name_(name), open_(open), closed_(closed) {}
 
-QPixmap tinted(const QString& path, const QColor& colour) {
-    QPixmap pixmap(path);
-    QPainter painter(&pixmap);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-    painter.fillRect(pixmap.rect(), colour);
-    return pixmap;
-}
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State /*state*/) override {
+        painter->drawPixmap(rect, filled(rect.size() * painter->device()->devicePixelRatioF(), mode));
+    }
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State /*state*/) override {
+        return filled(size, mode);
+    }
+    [[nodiscard]] QIconEngine* clone() const override { return new StencilEngine(*this); }
+
+  private:
+    /// The stencil at that many pixels in the colour of the mode, from the smallest drawing that has as many.
+    [[nodiscard]] QPixmap filled(const QSize& pixels, QIcon::Mode mode) const {
+        constexpr int largest = 3;
+        const int scale = std::clamp((pixels.width() + iconSize - 1) / iconSize, 1, largest);
+        const QColor colour = mode == QIcon::Disabled ? closed_ : open_;
+        const QString key = QStringLiteral("%1 %2 %3").arg(name_).arg(pixels.width()).arg(colour.rgb());
+        QPixmap pixmap;
+        if (!QPixmapCache::find(key, &pixmap)) {
+            pixmap.load(QStringLiteral(":/ui/icons/%1@%2.png").arg(name_).arg(scale));
+            pixmap = pixmap.scaled(pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+            QPainter painter(&pixmap);
+            painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+            painter.fillRect(pixmap.rect(), colour);
+            painter.end();
+            QPixmapCache::insert(key, pixmap);
+        }
+        return pixmap;
+    }
+
+    QString name_;
+    QColor open_;
+    QColor closed_;
+};
 
 /// What an icon says decides its colour: what refuses is never drawn in ink.
 QColor iconColour(const QWidget& widget) {
-    const QString role = widget.property("role").toString();
-    if (role == QLatin1String("main")) {
+    const QByteArray role = widget.property("role").toByteArray();
+    if (role == "main") {
         return widget.palette().color(QPalette::Light);
     }
-    if (role == QLatin1String("danger")) {
+    if (role == "danger") {
         return widget.palette().color(QPalette::BrightText);
     }
-    if (role == QLatin1String("mark")) {
+    if (role == "mark") {
         return widget.palette().color(QPalette::Link);
     }
     return widget.palette().color(QPalette::Active, QPalette::ButtonText);
 }
 
-constexpr int iconSize = 20;
-
 } // namespace
 
 QIcon iconOf(const QString& name, const QColor& colour, const QColor& closed) {
-    QIcon icon;
-    for (const int scale : {1, 2, 3}) {
-        const QString path = QStringLiteral(":/ui/icons/%1@%2.png").arg(name).arg(scale);
-        QPixmap open = tinted(path, colour);
-        QPixmap shut = tinted(path, closed);
-        icon.addPixmap(open, QIcon::Normal);
-        icon.addPixmap(shut, QIcon::Disabled);
-    }
-    return icon;
+    return QIcon(new StencilEngine(name, colour, closed)); // which owns it
 }
 
 Look::Look(QApplication& application) : Look(application, themeOfDesktop(QApplication::palette())) {}
@@ -95,10 +91,7 @@ Look::Look(QApplication& application, const Theme& theme) : application_(applica
              Qt::UI_FadeMenu, Qt::UI_FadeTooltip, Qt::UI_AnimateToolBox}) {
         QApplication::setEffectEnabled(effect, false);
     }
-    // NOLINTBEGIN(clang-analyzer-cplusplus.NewDeleteLeaks): the application owns its style.
-    QApplication::setStyle(new LodgeStyle);
     wear();
-    // NOLINTEND(clang-analyzer-cplusplus.NewDeleteLeaks)
     application.installEventFilter(this);
     connect(&application, &QApplication::focusChanged, this,
         [this](QWidget* /*old*/, QWidget* now) { moveRing(now); });
@@ -108,7 +101,9 @@ void Look::wear() {
     wearing_ = true;
     QApplication::setFont(fontOf(typeOf(QStringLiteral("field")), zoom_));
     QApplication::setPalette(paletteOf(*theme_));
-    application_.setStyleSheet(zoomedSheet(styleSheetOf(*theme_), zoom_));
+    QToolTip::setPalette(paletteOf(*theme_));
+    // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): the application owns its style.
+    QApplication::setStyle(new LodgeStyle(*theme_)); // a new one, so that everything is polished again
     wearing_ = false;
 }
 

@@ -1,4 +1,4 @@
-// Dresses the application: style, palette, style sheet, fonts, zoom; and draws the icons in the colours of a
+// Dresses the application: style, palette, fonts, zoom; and draws the icons in the colours of a
 // theme. When the desktop goes dark or light while the program runs, so does the program.
 #pragma once
 

@@ -41,7 +41,7 @@ class Zoomed {
     qsizetype at_ = 0;
 };
 
-/// Which of its measures the style sheet gives a widget; that is zoomed by itself.
+/// Which of its measures the style gives a widget; that is zoomed by itself.
 struct Styled {
     bool width;
     bool height;
@@ -49,10 +49,10 @@ struct Styled {
 
 Styled styledBy(const QWidget& widget) {
     const QString role = widget.property("role").toString();
-    const bool field = widget.inherits("QLineEdit") || widget.inherits("QAbstractSpinBox")
-                       || widget.inherits("QStatusBar")
-                       || widget.property("state").toString() == QLatin1String("computed");
-    return {.width = role == QLatin1String("upright"), .height = field || role == QLatin1String("rule")};
+    const bool high = role == QLatin1String("rule") || widget.inherits("QLineEdit")
+                      || widget.inherits("QAbstractSpinBox") || widget.inherits("QStatusBar")
+                      || (widget.inherits("QLabel") && widget.property("state").toByteArray() == "computed");
+    return {.width = role == QLatin1String("upright"), .height = high};
 }
 
 void learn(QWidget& widget) {

@@ -3,6 +3,7 @@
 #include "shell/page_table.h"
 #include "ui/item_marks.h"
 #include "ui/look.h"
+#include "ui/theme.h"
 #include "ui/type.h"
 #include "values/money.h"
 
@@ -76,7 +77,7 @@ namespace {
 /// A mark of the state, the name of the page, how many things are in the way.
 class PageDelegate : public QStyledItemDelegate {
   public:
-    PageDelegate(const PageModel& model, const PageList& list) : model_(model), list_(list) {}
+    explicit PageDelegate(const PageModel& model) : model_(model) {}
 
     [[nodiscard]] QSize sizeHint(
         const QStyleOptionViewItem& /*option*/, const QModelIndex& /*index*/) const override {
@@ -111,17 +112,16 @@ class PageDelegate : public QStyledItemDelegate {
     }
 
   private:
-    [[nodiscard]] QColor inkOf(const ItemState& item, const QPalette& palette) const {
+    [[nodiscard]] static QColor inkOf(const ItemState& item, const QPalette& palette) {
         switch (item.progress) {
-        case ItemProgress::Clear: return list_.property("okInk").value<QColor>();
-        case ItemProgress::Named: return list_.property("warnInk").value<QColor>();
+        case ItemProgress::Clear: return palette.color(ink::ok);
+        case ItemProgress::Named: return palette.color(ink::warn);
         case ItemProgress::InTheWay: return palette.color(QPalette::BrightText);
         default: return palette.color(QPalette::PlaceholderText);
         }
     }
 
     const PageModel& model_;
-    const PageList& list_;
 };
 
 } // namespace
@@ -136,7 +136,7 @@ PageList::PageList(const Program& program, const ProblemWatch& watch, QWidget* p
     setTitleBarWidget(new QWidget(this));
     model_ = new PageModel(list_);
     list_->setModel(model_);
-    list_->setItemDelegate(new PageDelegate(*model_, *this));
+    list_->setItemDelegate(new PageDelegate(*model_));
     list_->itemDelegate()->setParent(list_);
     list_->setUniformItemSizes(true);
     list_->setProperty("role", QByteArray("pages"));

@@ -19,9 +19,6 @@ class PageModel;
 
 class PageList : public QDockWidget {
     Q_OBJECT
-    // The inks of the states; the style sheet gives them.
-    Q_PROPERTY(QColor okInk MEMBER okInk_)
-    Q_PROPERTY(QColor warnInk MEMBER warnInk_)
 
   public:
     /// Both must outlive the list.
@@ -50,8 +47,6 @@ class PageList : public QDockWidget {
     QListView* list_;
     std::array<QLabel*, 3> captions_;
     std::array<QLabel*, 3> figures_;
-    QColor okInk_;
-    QColor warnInk_;
 };
 
 } // namespace lodge

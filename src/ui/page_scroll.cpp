@@ -9,7 +9,6 @@
 namespace lodge {
 
 PageScroll::PageScroll(QWidget& page, QStackedWidget& pages) {
-    // First: each change of its place has every widget of a page read the style sheet again.
     pages.addWidget(this);
     page.setAttribute(Qt::WA_Resized); // fit() gives the size, from the fonts that the page will have
     setFrameShape(QFrame::NoFrame);

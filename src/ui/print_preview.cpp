@@ -3,6 +3,7 @@
 #include "file/file_operations.h"
 #include "file/safe_writer.h"
 #include "print/print_return.h"
+#include "ui/dress.h"
 #include "ui/tool_button.h"
 #include "ui/type.h"
 
@@ -250,9 +251,7 @@ void PrintPreview::drawThumbnail() {
 }
 
 void PrintPreview::say(const QString& text, const char* tone) {
-    note_->setProperty("tone", QByteArray(tone));
-    note_->style()->unpolish(note_);
-    note_->style()->polish(note_);
+    setWorn(*note_, "tone", tone);
     note_->setText(text);
 }
 

@@ -1,5 +1,6 @@
 #include "ui/problem_dock.h"
 
+#include "ui/dress.h"
 #include "ui/item_marks.h"
 #include "ui/look.h"
 #include "ui/type.h"
@@ -13,7 +14,6 @@
 #include <QLabel>
 #include <QPainter>
 #include <QStackedWidget>
-#include <QStyle>
 #include <QStyledItemDelegate>
 #include <QTreeView>
 
@@ -339,10 +339,8 @@ void ProblemButton::refresh() {
     setVisible(watch_.hasReturn());
     setText(clear ? QStringLiteral("ไม่ติดขัด") : QStringLiteral("ติดขัด %1").arg(count));
     setToolTip(QStringLiteral("รายการที่ยังติดขัด (F7)"));
-    setProperty("tone", QByteArray(clear ? "ok" : "stop"));
-    style()->unpolish(this);
-    style()->polish(this);
-    const QColor ink = clear ? okInk_ : palette().color(QPalette::BrightText);
+    setWorn(*this, "tone", clear ? "ok" : "stop");
+    const QColor ink = palette().color(inkOf(*this));
     setIcon(iconOf(clear ? QStringLiteral("whole") : QStringLiteral("stop"), ink, ink));
     setIconSize(zoomed(QSize(markSize, markSize)));
 }

@@ -58,8 +58,6 @@ class ProblemDock : public QDockWidget {
 /// The button of the status bar: how many things are in the way.
 class ProblemButton : public QToolButton {
     Q_OBJECT
-    /// What the icon is drawn in when nothing is; the style sheet gives it.
-    Q_PROPERTY(QColor okInk MEMBER okInk_)
 
   public:
     explicit ProblemButton(const ProblemWatch& watch);
@@ -68,7 +66,6 @@ class ProblemButton : public QToolButton {
     void refresh();
 
     const ProblemWatch& watch_;
-    QColor okInk_;
 };
 
 } // namespace lodge

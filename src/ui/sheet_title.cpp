@@ -1,5 +1,6 @@
 #include "ui/sheet_title.h"
 
+#include "ui/theme.h"
 #include "ui/type.h"
 
 #include <QPainter>
@@ -50,11 +51,11 @@ QSize SheetTitle::sizeHint() const {
 void SheetTitle::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setFont(nameFont());
-    painter.setPen(palette().color(QPalette::Link));
+    painter.setPen(palette().color(QPalette::Active, ink::form));
     painter.drawText(0, zoomed(baseline), name());
     const int after = painter.fontMetrics().horizontalAdvance(name()) + zoomed(gap);
     painter.setFont(remarkFont());
-    painter.setPen(palette().color(QPalette::WindowText));
+    painter.setPen(palette().color(QPalette::Active, QPalette::WindowText));
     painter.drawText(after, zoomed(baseline), remark());
 }
 

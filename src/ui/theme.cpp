@@ -29,9 +29,9 @@ QPalette paletteOf(const Theme& theme) {
         QPalette::ColorRole role;
         Rgb Theme::*colour;
     };
-    // Paper, the tint of the row in hand, second ink and the colour of refusals have no role of their own in
-    // the toolkit; own widgets find them under the four last ones.
-    constexpr std::array<Role, 19> roles = {{
+    // Paper and the tint of the row in hand have no role of their own in the toolkit; they lie under Light
+    // and Midlight.
+    constexpr std::array<Role, 20> roles = {{
         {QPalette::Window, &Theme::ground},
         {QPalette::WindowText, &Theme::ink},
         {QPalette::Base, &Theme::field},
@@ -39,28 +39,33 @@ QPalette paletteOf(const Theme& theme) {
         {QPalette::Text, &Theme::ink},
         {QPalette::Button, &Theme::chrome},
         {QPalette::ButtonText, &Theme::ink},
-        {QPalette::PlaceholderText, &Theme::ink3},
         {QPalette::Mid, &Theme::rule},
         {QPalette::Dark, &Theme::edge},
-        {QPalette::Shadow, &Theme::edge},
-        {QPalette::Link, &Theme::form},
         {QPalette::Highlight, &Theme::focus},
         {QPalette::HighlightedText, &Theme::paper},
-        {QPalette::ToolTipBase, &Theme::paper},
         {QPalette::Light, &Theme::paper},
         {QPalette::Midlight, &Theme::select},
-        {QPalette::LinkVisited, &Theme::ink2},
-        {QPalette::BrightText, &Theme::stop},
+        {ink::second, &Theme::ink2},
+        {ink::third, &Theme::ink3},
+        {ink::form, &Theme::form},
+        {ink::link, &Theme::focus},
+        {ink::stop, &Theme::stop},
+        {ink::warn, &Theme::warn},
+        {ink::ok, &Theme::ok},
     }};
     QPalette palette;
     for (const Role& role : roles) {
         palette.setColor(role.role, toColor(theme.*role.colour));
     }
-    palette.setColor(QPalette::ToolTipText, toColor(theme.ink));
-    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::ButtonText, ink::second,
+             ink::third, ink::form, ink::link, ink::stop, ink::warn, ink::ok}) {
         palette.setColor(QPalette::Disabled, role, toColor(theme.ink3));
     }
+    // A closed field still shows its figure, and nothing of it as selected.
     palette.setColor(QPalette::Disabled, QPalette::Base, toColor(theme.disabled));
+    palette.setColor(QPalette::Disabled, QPalette::Text, toColor(theme.ink2));
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, toColor(theme.disabled));
+    palette.setColor(QPalette::Disabled, QPalette::HighlightedText, toColor(theme.ink2));
     return palette;
 }
 

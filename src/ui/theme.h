@@ -1,13 +1,14 @@
 // The colours of the program, light and dark: one meaning, one colour, and never colour alone.
 //
-// The palette of the toolkit and the style sheet are both filled from here and from nowhere else.
+// The palette of the toolkit and what the style draws are both filled from here and from nowhere else.
 #pragma once
+
+#include <QPalette>
 
 #include <array>
 #include <cstdint>
 
 class QColor;
-class QPalette;
 
 namespace lodge {
 
@@ -62,7 +63,7 @@ inline constexpr Theme darkTheme{
     .stop = 0xFF9A8F, .stopGround = 0x3A2220, .warn = 0xF0BE6A, .warnGround = 0x352B18,
     .ok = 0x86CFA0, .okGround = 0x1C2A22};
 
-/// The name by which the style sheet asks for a colour ("@ink2").
+/// The name of a colour, as the design calls it.
 struct ThemeColour {
     const char* name;
     Rgb Theme::*colour;
@@ -79,6 +80,18 @@ inline constexpr std::array<ThemeColour, 24> themeColours = {{
     {"warnGround", &Theme::warnGround}, {"ok", &Theme::ok}, {"okGround", &Theme::okGround},
 }};
 // clang-format on
+
+/// Under which roles of the palette a widget finds the inks that the toolkit has no role for: all are roles
+/// that nothing of the toolkit draws with here.
+namespace ink {
+inline constexpr QPalette::ColorRole second = QPalette::LinkVisited;
+inline constexpr QPalette::ColorRole third = QPalette::PlaceholderText;
+inline constexpr QPalette::ColorRole form = QPalette::Link;
+inline constexpr QPalette::ColorRole link = QPalette::ToolTipText;
+inline constexpr QPalette::ColorRole stop = QPalette::BrightText;
+inline constexpr QPalette::ColorRole warn = QPalette::ToolTipBase;
+inline constexpr QPalette::ColorRole ok = QPalette::Shadow;
+} // namespace ink
 
 [[nodiscard]] QColor toColor(Rgb colour);
 [[nodiscard]] QPalette paletteOf(const Theme& theme);

@@ -1,6 +1,7 @@
 #include "ui/tie_tag.h"
 
 #include "pages/fields/amounts.h"
+#include "ui/dress.h"
 #include "ui/follow_frame.h"
 #include "ui/look.h"
 #include "ui/type.h"
@@ -9,7 +10,6 @@
 #include <QEvent>
 #include <QLineEdit>
 #include <QPainter>
-#include <QStyle>
 
 #include <cmath>
 
@@ -31,8 +31,6 @@ std::string figureOf(const QWidget& side) {
 TieTag::TieTag(QWidget* parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
     setProperty("type", QByteArray("tag"));
-    setProperty("role", QByteArray("tag"));
-    setProperty("tone", QByteArray());
     setAlignment(Qt::AlignCenter);
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Maximum);
 }
@@ -104,25 +102,22 @@ void TieTag::say() {
         const double difference = readFigure(here) - readFigure(there);
         if (!sameAmount(difference, 0)) {
             const QString amount = QString::fromStdString(formatMoney(std::abs(difference)));
-            show(QStringLiteral("ต่าง %1").arg(amount), "stop");
+            show(QStringLiteral("ต่าง %1").arg(amount), "differs");
             return;
         }
         // Nothing beside nothing, and nothing beside a nil, is no agreement worth a word.
         speaks = speaks || (!here.empty() && !there.empty());
     }
-    show(speaks ? QStringLiteral("ตรงกัน") : QString(), speaks ? "ok" : "");
+    show(speaks ? QStringLiteral("ตรงกัน") : QString(), speaks ? "agrees" : "");
 }
 
-void TieTag::show(const QString& text, const char* tone) {
+void TieTag::show(const QString& text, const char* role) {
     if (text == toolTip()) {
         return;
     }
     setToolTip(text);
     setAccessibleDescription(text);
-    setProperty("tone", QByteArray(tone));
-    style()->unpolish(this);
-    style()->polish(this);
-    setFont(fontOf(typeOf(QStringLiteral("tag")), zoomNow())); // the style has taken it away
+    setWorn(*this, "role", role);
     setText(text);
     if (QLabel::sizeHint().width() > maximumWidth()) {
         setText(text.section(QLatin1Char(' '), 0, 0)); // the amount is in the tool tip
@@ -135,8 +130,8 @@ void TieTag::paintEvent(QPaintEvent* event) {
     if (text().isEmpty()) {
         return;
     }
-    const bool agrees = property("tone").toByteArray() == "ok";
-    const QColor ink = palette().color(QPalette::WindowText);
+    const bool agrees = property("role").toByteArray() == "agrees";
+    const QColor ink = palette().color(foregroundRole());
     const int side = zoomed(iconSize);
     QPainter painter(this);
     iconOf(agrees ? QStringLiteral("tick") : QStringLiteral("cross"), ink, ink)

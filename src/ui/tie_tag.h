@@ -48,7 +48,7 @@ class TieTag : public QLabel {
 
     void watch(QWidget& side);
     void say();
-    void show(const QString& text, const char* tone);
+    void show(const QString& text, const char* role);
 
     QString sides_;
     QList<Pair> pairs_;

@@ -3,6 +3,7 @@
 #include "keys.h"
 #include "ui/boxes.h"
 #include "ui/date_edit.h"
+#include "ui/dress.h"
 #include "ui/look.h"
 #include "ui/qt_host.h"
 #include "ui/sheet_title.h"
@@ -14,6 +15,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QFileDialog>
+#include <QFrame>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -128,9 +130,47 @@ class LookTest : public QObject {
         QCOMPARE(&themeOfDesktop(desktop), &lightTheme);
     }
 
-    void theStyleSheetAsksForNoColourThatTheThemeLacks() {
-        QVERIFY(!qApp->styleSheet().isEmpty());
-        QVERIFY(!qApp->styleSheet().contains(QLatin1Char('@')));
+    void aWidgetWearsWhatItsPropertiesAskFor() {
+        QFrame sheet;
+        sheet.setProperty("role", QByteArray("sheet"));
+        QFrame sum(&sheet);
+        sum.setProperty("role", QByteArray("sum"));
+        QLabel figure(&sheet);
+        figure.setProperty("state", QByteArray("computed"));
+        QLabel total(&sum);
+        total.setProperty("state", QByteArray("computed"));
+        QVERIFY(dressOf(QFrame()) == nullptr);
+        QCOMPARE(groundOf(*dressOf(sheet), sheet), &Theme::paper);
+        QCOMPARE(groundOf(*dressOf(figure), figure), &Theme::computed);
+        QVERIFY(groundOf(*dressOf(total), total) == nullptr); // the band shows through
+        setWorn(sum, "row", "hand");
+        QCOMPARE(groundOf(*dressOf(sum), sum), &Theme::select);
+    }
+
+    void whatATextSaysCountsMoreThanHowItIsSet() {
+        QLabel label;
+        label.setProperty("type", QByteArray("heading"));
+        QCOMPARE(inkOf(label), ink::form);
+        setWorn(label, "tone", "stop");
+        QCOMPARE(inkOf(label), ink::stop);
+        QCOMPARE(label.foregroundRole(), ink::stop);
+    }
+
+    void aFieldShowsItsStateAndTheFocusAboveAllButARefusal() {
+        constexpr QStyle::State open = QStyle::State_Enabled;
+        constexpr QStyle::State focused = open | QStyle::State_HasFocus;
+        QLineEdit field;
+        QCOMPARE(fieldDressOf(field, open).line, &Theme::edge);
+        QCOMPARE(fieldDressOf(field, focused).line, &Theme::focus);
+        QCOMPARE(fieldDressOf(field, QStyle::State_None).ground, &Theme::disabled);
+        setWorn(field, "state", "way");
+        QCOMPARE(fieldDressOf(field, open).line, &Theme::stop);
+        QCOMPARE(fieldDressOf(field, focused).line, &Theme::focus);
+        setWorn(field, "state", "refused");
+        QCOMPARE(fieldDressOf(field, focused).line, &Theme::stop);
+        QCOMPARE(fieldDressOf(field, focused).ground, &Theme::stopGround);
+        setWorn(field, "state", "computed");
+        QCOMPARE(fieldDressOf(field, open).line, fieldDressOf(field, open).ground);
     }
 
     void theFontsAreThere() { QCOMPARE(missingFontPackages(), QStringList()); }
