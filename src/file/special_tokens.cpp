@@ -44,7 +44,7 @@ void writeStatusWord(ReturnState& state, TokenWriter& tokens) {
 
 void writeVersion(ReturnState& state, TokenWriter& tokens) { tokens.add(state.strVersion); }
 
-// The status word serves the tax office's gate, and the version has been checked before any line is read.
+// The status word serves the tax office's gate; the version is judged by readReturn.
 void readNothing(ReturnState& /*state*/, TokenReader& tokens) { tokens.skip(); }
 
 } // namespace
@@ -56,32 +56,13 @@ constexpr SpecialToken version{"`strVersion`", writeVersion, readNothing, {}};
 void takeTaxYear(ReturnState& state) { setTaxYear(state); }
 
 void noteInvestment(ReturnState& state) {
-    if (state.intInvestment == 1) state.ChkInvestmentFlag1 = 1;
+    // A box that was ticked for a new return says nothing about this one.
+    state.ChkInvestmentFlag1 = state.intInvestment == 1 ? 1 : 0;
 }
 
 // --- Line 3: filing and period ---
 
 namespace {
-
-constexpr std::size_t normalFiling = 7;
-constexpr std::size_t advancePayment = 8;
-constexpr std::size_t additionalFiling = 9;
-constexpr std::size_t additionalNumber = 10;
-
-void restoreFiling(ReturnState& state) {
-    FieldArray& page = state.strFldPage1;
-    const auto set = [&page](std::string_view normal, std::string_view advance, std::string_view additional,
-                         std::string_view number) {
-        page[normalFiling] = normal;
-        page[advancePayment] = advance;
-        page[additionalFiling] = additional;
-        page[additionalNumber] = number;
-    };
-    if (state.strFilingType == "1") set("1", "0", "0", "");
-    if (state.strFilingType == "2") set("0", "0", "1", state.strAddNo);
-    // The "2" is meant: it is no tick of the additional filing, and tells an advance payment from one.
-    if (state.strFilingType == "3") set("0", "1", "2", "");
-}
 
 // Day, month name and year in three labels of page 1.
 void labelDate(FieldArray& page, std::size_t first, std::string_view date) {
@@ -94,7 +75,7 @@ void labelDate(FieldArray& page, std::size_t first, std::string_view date) {
 } // namespace
 
 void restoreFilingAndPeriod(ReturnState& state) {
-    restoreFiling(state);
+    restoreFilingBoxes(state);
     labelDate(state.strFldPage1, 1, state.strStartDDMMYY);
     labelDate(state.strFldPage1, 4, state.strFinishDDMMYY);
     state.modIHQ.PeriodStart = state.strStartDDMMYY;

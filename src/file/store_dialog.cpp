@@ -66,6 +66,13 @@ bool writeReturn(Program& program, const std::string& folder, const std::string&
     return true;
 }
 
+/// Closes a form of the store and gives the page below it and the toolbar back.
+void backToPage(Program& program, const char* form) {
+    program.shell().EnableTools(true);
+    program.shell().SwitchPage(true);
+    program.desk.unload(form);
+}
+
 } // namespace
 
 frmLodgeDirec::frmLodgeDirec(Program& program)
@@ -118,21 +125,16 @@ void frmLodgeDirec::cmdOk_Click() {
     if (onStored) {
         onStored();
     }
+    desk().unload(formName);
     if (program_.state.strStoreType == "N") {
-        desk().unload(formName);
         program_.show({.text = "จัดเก็บข้อมูล(ชั่วคราว) เรียบร้อย", .title = "ข้อความแจ้งให้ทราบ"});
         cmdExit_Click();
         return;
     }
-    desk().unload(formName);
     desk().show(frmLodgeDisp1::formName);
 }
 
-void frmLodgeDirec::cmdExit_Click() {
-    program_.shell().EnableTools(true);
-    program_.shell().SwitchPage(true);
-    desk().unload(formName);
-}
+void frmLodgeDirec::cmdExit_Click() { backToPage(program_, formName); }
 
 frmLodgeDisp1::frmLodgeDisp1(Program& program)
     : Form(program.desk, formName, "จัดเก็บข้อมูล"), program_(program) {
@@ -154,11 +156,7 @@ void frmLodgeDisp1::CmdPrint_Click() {
     program_.shell().PrintReturn();
 }
 
-void frmLodgeDisp1::closedByFrame() {
-    program_.shell().EnableTools(true);
-    program_.shell().SwitchPage(true);
-    desk().unload(formName);
-}
+void frmLodgeDisp1::closedByFrame() { backToPage(program_, formName); }
 
 void storeAutomatically(Program& program) {
     ReturnState& state = program.state;

@@ -10,7 +10,10 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
+#include <cerrno>
 #include <cstddef>
+#include <cstdint>
 #include <utility>
 
 namespace lodge {
@@ -22,6 +25,13 @@ constexpr std::string_view innerMark = "M";
 
 ReadResult unreadable(std::string message, std::string cause) {
     return {ReadStatus::Unreadable, std::move(message), std::move(cause), {}};
+}
+
+// Id and year stand in the name as the return has them, and the return may have come from a stranger: nothing
+// in it may lead into another folder or end the path early.
+bool isNameAlone(std::string_view name) {
+    return std::ranges::none_of(
+        name, [](char c) { return c == '/' || c == '\\' || static_cast<std::uint8_t>(c) < ' '; });
 }
 
 void setPeriod(ReturnState& state, int machineYear) {
@@ -74,8 +84,12 @@ StoreResult storeReturn(FileOperations& files, ReturnState& state, std::string_v
     setTaxYear(state);
     const ReturnFileNames names = returnFileNames(state, userId);
     const std::string place = asFolder(trimBlanks(folder));
-    state.strFileName = place + names.inner;
     StoreResult result{place + names.packed, {}};
+    if (!isNameAlone(names.packed)) {
+        result.error = storeFailureText({StoreStep::FindTarget, EINVAL, result.packedPath});
+        return result;
+    }
+    state.strFileName = place + names.inner;
 
     Packed packed = packArchive(names.inner, encodeReturn(state), now);
     if (!packed.error.empty()) {

@@ -44,7 +44,8 @@ struct StoreResult {
 
 /// Stores the return in the folder by safe_writer.h: the text packed in memory, the archive written. The path
 /// of the inner file stays in strFileName, although no such file is made; one that an interrupted store of
-/// another program left is removed. The archive's member bears the time `now`.
+/// another program left is removed. The archive's member bears the time `now`. Nothing is stored when the id
+/// or the year would lead out of the folder.
 StoreResult storeReturn(
     ReturnState& state, std::string_view folder, std::string_view userId, std::chrono::local_seconds now);
 

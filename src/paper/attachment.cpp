@@ -31,7 +31,7 @@ std::string withAttachment(const std::string& pdf, const Attachment& attachment)
     const auto written = writer.getBufferSharedPointer();
     return {reinterpret_cast<const char*>(written->getBuffer()), written->getSize()};
 } catch (const std::exception& error) {
-    throw ReportError(report_error::programFault, std::string("แนบข้อมูลในแฟ้ม PDF ไม่ได้: ") + error.what());
+    throw ReportError(report_error::programFault, std::string("แนบข้อมูลในไฟล์ PDF ไม่ได้: ") + error.what());
 }
 
 } // namespace lodge

@@ -26,12 +26,23 @@ GlibOwner<RsvgHandle> parse(const std::string& name, std::string_view svg) {
     return handle;
 }
 
+/// Why a template cannot be read, as a person can act on it.
+std::string readFailureCause(int error) {
+    switch (error) {
+    case 0: return "ไฟล์ว่าง";
+    case ENOENT:
+    case ENOTDIR: return "ไม่พบไฟล์";
+    case EACCES: return "ไม่มีสิทธิ์อ่านไฟล์";
+    default: return std::generic_category().message(error);
+    }
+}
+
 std::string contentOf(const std::filesystem::path& file) {
     errno = 0;
     std::ifstream stream(file, std::ios::binary);
     std::string content{std::istreambuf_iterator<char>(stream), {}};
     if (!stream || content.empty()) {
-        const std::string cause = errno != 0 ? std::generic_category().message(errno) : "แฟ้มว่าง";
+        const std::string cause = readFailureCause(errno);
         throw ReportError(report_error::templateMissing, "อ่านแบบพิมพ์ " + file.string() + " ไม่ได้: " + cause);
     }
     return content;

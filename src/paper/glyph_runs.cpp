@@ -37,6 +37,22 @@ std::vector<cairo_text_cluster_t> clustersOf(const PangoGlyphString& shaped, std
     return clusters;
 }
 
+unsigned long blankIn(cairo_scaled_font_t* font) {
+    cairo_glyph_t blank{};
+    cairo_glyph_t* glyphs = &blank; // room enough: nothing is allocated for one character
+    int count = 1;
+    cairo_scaled_font_text_to_glyphs(font, 0, 0, " ", 1, &glyphs, &count, nullptr, nullptr, nullptr);
+    return blank.index;
+}
+
+/// The glyph that stands for a shaped one in the font itself.
+unsigned long glyphIn(cairo_scaled_font_t* font, PangoGlyph glyph) {
+    // No glyph for a character in any font: the font's own box for what it lacks.
+    if ((glyph & PANGO_GLYPH_UNKNOWN_FLAG) != 0) return 0;
+    // A blank at which the line breaks is shaped away. Its text still goes to the page, so it needs a glyph.
+    return glyph == PANGO_GLYPH_EMPTY ? blankIn(font) : glyph;
+}
+
 GlyphRun glyphRun(const PangoGlyphItem& item, std::string_view text, double& x, double baseline) {
     const PangoGlyphString& shaped = *item.glyphs;
     GlyphRun run;
@@ -46,9 +62,7 @@ GlyphRun glyphRun(const PangoGlyphItem& item, std::string_view text, double& x, 
     run.clusters = clustersOf(shaped, run.text);
     for (int i = 0; i < shaped.num_glyphs; ++i) {
         const PangoGlyphInfo& glyph = shaped.glyphs[i];
-        // No glyph for a character in any font: the font's own box for what it lacks.
-        const bool isMissing = (glyph.glyph & PANGO_GLYPH_UNKNOWN_FLAG) != 0;
-        run.glyphs.push_back({.index = isMissing ? 0 : glyph.glyph,
+        run.glyphs.push_back({.index = glyphIn(run.font, glyph.glyph),
             .x = x + pango_units_to_double(glyph.geometry.x_offset),
             .y = baseline + pango_units_to_double(glyph.geometry.y_offset)});
         x += pango_units_to_double(glyph.geometry.width);

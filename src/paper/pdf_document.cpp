@@ -50,7 +50,7 @@ std::string PdfDocument::finish(const std::string& title) {
     const cairo_status_t status = cairo_surface_status(drawing_->surface.get());
     if (status == CAIRO_STATUS_SUCCESS) return std::move(drawing_->bytes);
     throw ReportError(
-        report_error::programFault, std::string("ทำแฟ้ม PDF ไม่ได้: ") + cairo_status_to_string(status));
+        report_error::programFault, std::string("ทำไฟล์ PDF ไม่ได้: ") + cairo_status_to_string(status));
 }
 
 } // namespace lodge

@@ -73,28 +73,28 @@ bool isNothing(std::string_view amount) { return amount.empty() || amount == "0.
 
 } // namespace
 
-Value auditorName(ReturnState& state) { return personName(state, auditorTitle); }
+Value auditorName(const ReturnState& state) { return personName(state, auditorTitle); }
 
-Value accountantName(ReturnState& state) { return personName(state, accountantTitle); }
+Value accountantName(const ReturnState& state) { return personName(state, accountantTitle); }
 
-Value packedFile(ReturnState& state) {
+Value packedFile(const ReturnState& state) {
     return state.strFileName.empty() ? std::nullopt : Value(packedPathOf(state.strFileName));
 }
 
-Value computedTax(ReturnState& state) {
+Value computedTax(const ReturnState& state) {
     const std::string& kept = state.DataCtrl_P2.TaxValue;
     return unlessEmpty(formatBracketText(kept.empty() ? state.strFldPage2[taxEntry] : kept));
 }
 
-Value generalRate(ReturnState& state) { return tick(state.DataCtrl_P2.NewAtt1 == "(1)"); }
+Value generalRate(const ReturnState& state) { return tick(state.DataCtrl_P2.NewAtt1 == "(1)"); }
 
-Value reducedRate(ReturnState& state) {
+Value reducedRate(const ReturnState& state) {
     const TaxRecord& tax = state.DataCtrl_P2;
     const bool generalOrNone = tax.NewAtt1 == "(1)" || tax.NewAtt1.empty();
     return tick(!generalOrNone || !tax.NewAtt2.empty() || !tax.NewAtt3.empty());
 }
 
-Value rateRow(ReturnState& state) {
+Value rateRow(const ReturnState& state) {
     static constexpr std::array<std::string_view, 6> rows = {"1.1", "1.2", "1.3", "1.4", "1.5", "1.6"};
     for (std::size_t row = 0; row < rows.size(); ++row) {
         if (state.DataCtrl_P2.nRateCode == rows[row]) {
@@ -104,25 +104,27 @@ Value rateRow(ReturnState& state) {
     return "0";
 }
 
-Value remarkLine(ReturnState& state) { return unlessEmpty(brokenAtBlank(state.strFldPage8[remark]).first); }
+Value remarkLine(const ReturnState& state) {
+    return unlessEmpty(brokenAtBlank(state.strFldPage8[remark]).first);
+}
 
-Value remarkContinued(ReturnState& state) {
+Value remarkContinued(const ReturnState& state) {
     return unlessEmpty(brokenAtBlank(state.strFldPage8[remark]).second);
 }
 
-Value secondRemarkLine(ReturnState& state) {
+Value secondRemarkLine(const ReturnState& state) {
     return unlessEmpty(brokenAtBlank(state.strFldPage8[secondRemark]).first);
 }
 
-Value secondRemarkContinued(ReturnState& state) {
+Value secondRemarkContinued(const ReturnState& state) {
     return unlessEmpty(brokenAtBlank(state.strFldPage8[secondRemark]).second);
 }
 
-Value statedProfit(ReturnState& state) { return tick(state.BoxProfit); }
+Value statedProfit(const ReturnState& state) { return tick(state.BoxProfit); }
 
-Value statedLoss(ReturnState& state) { return tick(state.BoxLoss); }
+Value statedLoss(const ReturnState& state) { return tick(state.BoxLoss); }
 
-Value statedResult(ReturnState& state) {
+Value statedResult(const ReturnState& state) {
     const FieldArray& item3 = state.strFldPage3_3;
     if (isNothing(item3[taxableResult]) && isNothing(item3[exemptResult])) {
         return "";

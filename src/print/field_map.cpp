@@ -78,7 +78,6 @@ constexpr FieldRow atReducedRate(FieldRow row) {
     return row;
 }
 
-constexpr Quotes checkQuotes = {" = '", "' "};
 constexpr Quotes boxQuotes = {" = '", "'"};
 constexpr Quotes zoneQuotes = {" = '", " ' "};
 constexpr Quotes tightZoneQuotes = {"= '", " ' "};

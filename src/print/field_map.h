@@ -39,8 +39,11 @@ struct Quotes {
     std::string_view after;
 };
 
+/// Those of a check mark.
+inline constexpr Quotes checkQuotes = {" = '", "' "};
+
 /// A value that is more than an element of the return; nothing leaves the field blank.
-using ComputedValue = std::optional<std::string> (*)(ReturnState& state);
+using ComputedValue = std::optional<std::string> (*)(const ReturnState& state);
 
 /// A field of a template, or a run of alike fields.
 struct FieldRow {

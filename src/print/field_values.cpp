@@ -116,7 +116,6 @@ Value shownElement(const ReportField& field, const std::string& element) {
 // --- Assignments ---
 
 constexpr Quotes textQuotes = {" =  ' ", " ' "};
-constexpr Quotes checkQuotes = {" = '", "' "};
 constexpr Quotes codeQuotes = {" =  '", "' "};
 
 Quotes quotesOf(const FieldRow& row) {

@@ -1,5 +1,6 @@
 #include "program/program.h"
 
+#include "values/dates.h"
 #include "values/messages.h"
 
 namespace lodge {
@@ -59,9 +60,8 @@ std::optional<PageRange> Program::choosePages() {
 }
 
 int machineYear(const Host& host) {
-    constexpr int buddhistOffset = 543;
     const int year = static_cast<int>(host.today().year());
-    return host.calendar() == Calendar::Buddhist ? year + buddhistOffset : year;
+    return host.calendar() == Calendar::Buddhist ? year + buddhistEraOffset : year;
 }
 
 } // namespace lodge

@@ -1,7 +1,7 @@
 // The door to whatever puts a return on paper: a template is named, its formulas are set, the job is run.
 //
 // A formula is the text of one assignment, "lblFld10 =  ' 01 ' ": the template's name of a field, and its
-// value in quotes. What the forms of an assignment are is told in print/assignment.h.
+// value in quotes. What the forms of an assignment are is told in print/field_map.h.
 #pragma once
 
 #include <cstddef>

@@ -33,9 +33,11 @@ bool isTabStop(const Control& control) {
 
 std::string acceptedText(const TextBox& box, std::string_view typed) {
     std::string regular = regularInput(typed, inputKind(box.textKind()));
-    if (box.maxLength() > 0) {
-        regular.resize(textLeft(regular, static_cast<std::size_t>(box.maxLength())).size());
-    }
+    const auto room = static_cast<std::size_t>(std::max(box.maxLength(), 0));
+    if (room == 0 || textLength(regular) <= room) return regular;
+    // Cut with its separators, a large amount would become a small one without a word.
+    if (box.textKind() == TextKind::Amount) regular = removeAll(regular, ",");
+    regular.resize(textLeft(regular, room).size());
     return regular;
 }
 

@@ -60,7 +60,7 @@ class User {
 };
 
 /// What a box makes of typed or pasted text: the characters that it takes, made regular, at most its
-/// `maxLength`.
+/// `maxLength`. An amount that is too long for its box loses its separators first.
 [[nodiscard]] std::string acceptedText(const TextBox& box, std::string_view typed);
 /// The digits that a date box takes of typed or pasted text; "1/5/2561" is 01052561, and Thai digits count.
 [[nodiscard]] std::string acceptedDigits(std::string_view typed);

@@ -68,7 +68,7 @@ constexpr std::array<PageRow, 14> pages = {{
     {page::notification, "frmLodgePage8",   "แบบแจ้งข้อความฯ", "cmdItem13", "แบบแจ้งข้อความฯ",
      P8_ArrayToVar, P8_CheckForm, P8_DataToArray, noField},
     {page::headquarters, "frmIHQ", "ใบแนบ ก.ข.ค. 77 - สำหรับกิจการสำนักงานใหญ่ข้ามประเทศ (IHQ)", "cmdItemIHQ",
-     "   ใบแนบ ก.ข.ค.77      สำหรับกิจการIHQ", IHQ_FormToBox, nullptr, IHQ_BoxToForm, noField},
+     "   ใบแนบ ก.ข.ค.77      สำหรับกิจการIHQ", IHQ_FormToBox, nullptr, nullptr, noField},
 }};
 
 constexpr std::array<FullCheck, 10> checks = {{

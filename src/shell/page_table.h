@@ -44,7 +44,7 @@ struct PageRow {
     PageProcedure arrayToControls;
     /// Runs when the page is left.
     PageProcedure lightCheck;
-    /// Rebuilds the array from the controls.
+    /// Rebuilds the array from the controls; nullptr for a page whose fields are kept as they are left.
     PageProcedure store;
     /// The field that gets the focus after a refused store.
     const char* (*firstField)(std::int16_t investment);

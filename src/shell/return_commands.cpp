@@ -42,6 +42,7 @@ void ReturnCommands::cmdPageFirst_Click() {
 void ReturnCommands::clearAll() {
     program_.shell().UnloadPages();
     program_.state.clearAllPages();
+    program_.damagedLines.clear();
     program_.state.intPageCur = page::first;
     program_.shell().EnableTools(true);
     if (auto* frame = program_.desk.find<MDILodge>()) {
@@ -84,6 +85,7 @@ void ReturnCommands::endReturn() {
     program_.shell().EnableTools(false);
     program_.desk.unloadAllExcept(MDILodge::formName); // first, for the same reason
     program_.state.putAway();
+    program_.damagedLines.clear();
     program_.desk.show(frmLodgeStart::formName);
 }
 

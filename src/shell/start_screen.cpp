@@ -8,6 +8,7 @@
 #include "values/messages.h"
 
 #include <cstddef>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -30,6 +31,9 @@ constexpr std::array<const char*, 8> advice = {
     "3. ที่ Tab Administrative   ให้กำหนด Current language เป็น Thai (Thailand)",
 };
 
+/// A machine whose calendar shows this year or a later one keeps the Thai era.
+constexpr int firstThaiMachineYear = 2500;
+
 /// A date box that holds a day, read apart.
 struct Day {
     explicit Day(const std::string& digits)
@@ -46,6 +50,12 @@ long daysOfYear(const Day& first, const Day& last) {
     const bool leapAtStart = first.month <= 2 && isLeapBuddhistYear(first.year);
     const bool leapAtEnd = last.month >= 2 && isLeapBuddhistYear(last.year);
     return leapAtStart || leapAtEnd ? 366 : 365;
+}
+
+void putIn(const Frame& frame, std::initializer_list<Control*> controls) {
+    for (Control* control : controls) {
+        control->putIn(frame);
+    }
 }
 
 } // namespace
@@ -94,20 +104,10 @@ void frmLodgeStart::captionControls() {
     for (std::size_t i = 0; i < investments_.size(); ++i) {
         investments_[i]->setTag(std::to_string(i + 1)); // the investment status that the header line carries
     }
-    for (Control* control :
-        {static_cast<Control*>(&mskDate1), static_cast<Control*>(&mskDate2), static_cast<Control*>(&Label2),
-            static_cast<Control*>(&ChkNewInvestment01), static_cast<Control*>(&ChkNewInvestment02),
-            static_cast<Control*>(&ChkNewInvestment03), static_cast<Control*>(&ChkNewInvestment04),
-            static_cast<Control*>(&ChkNewInvestment05), static_cast<Control*>(&ChkInvestment),
-            static_cast<Control*>(&ChkInvestment2), static_cast<Control*>(&CmdOK1),
-            static_cast<Control*>(&CmdClear1), static_cast<Control*>(&cmdMessage)}) {
-        control->putIn(Frame1);
-    }
-    for (Control* control :
-        {static_cast<Control*>(&txtPath), static_cast<Control*>(&CmdBrowse), static_cast<Control*>(&Label7),
-            static_cast<Control*>(&CmdOK2), static_cast<Control*>(&CmdClear2)}) {
-        control->putIn(Frame2);
-    }
+    putIn(Frame1, {&mskDate1, &mskDate2, &Label2, &ChkNewInvestment01, &ChkNewInvestment02,
+                      &ChkNewInvestment03, &ChkNewInvestment04, &ChkNewInvestment05, &ChkInvestment,
+                      &ChkInvestment2, &CmdOK1, &CmdClear1, &cmdMessage});
+    putIn(Frame2, {&txtPath, &CmdBrowse, &Label7, &CmdOK2, &CmdClear2});
 }
 
 void frmLodgeStart::wireControls() {
@@ -154,7 +154,7 @@ void frmLodgeStart::Form_Load() {
     program_.isic().LoadIsicTables();
     lbl_Version.setCaption("Version " + state.strVersion);
     state.DataCtrl_P2.resetTaxLabels();
-    state.strLocale = machineYear(program_.host()) < 2500 ? "EN" : "TH";
+    state.strLocale = machineYear(program_.host()) < firstThaiMachineYear ? "EN" : "TH";
     state.DataCtrl_P1.IndcBusType.clear();
     state.modEdit.EditActive = false;
     state.blnFolderWritable = program_.host().canWriteInto(program_.host().programFolder());
@@ -258,6 +258,7 @@ void frmLodgeStart::takePeriod() {
             state.intInvestment = static_cast<std::int16_t>(std::stoi(box->tag()));
         }
     }
+    state.ChkInvestmentFlag1 = ChkNewInvestment01.value() ? 1 : 0; // a refused file may have emptied it
     state.strStartDDMMYY = mskDate1.digits();
     state.strFinishDDMMYY = mskDate2.digits();
 }
@@ -297,13 +298,13 @@ void frmLodgeStart::CmdOK2_Click() {
         return;
     }
     const ReadResult read = loadReturn(txtPath.text(), state, machineYear(program_.host()));
-    program_.damagedLines = read.damagedLines;
     if (read.status != ReadStatus::Loaded) {
         program_.notify(read.message);
         state.intError = 1;
         txtPath.setFocus();
         return;
     }
+    program_.damagedLines = read.damagedLines;
     beginLoadedReturn(state);
     program_.shell().ShowPage1();
     state.blnNeedPage2 = true;

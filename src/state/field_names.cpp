@@ -38,6 +38,10 @@ template <typename T>
 struct IsArray : std::false_type {};
 template <typename T, std::size_t N>
 struct IsArray<std::array<T, N>> : std::true_type {};
+template <typename T>
+struct IsList : std::false_type {};
+template <typename T>
+struct IsList<std::vector<T>> : std::true_type {};
 
 // The row of the value that a path of members leads to: value<&ReturnState::modIHQ,
 // &HeadquartersRecord::BoxA>.
@@ -299,6 +303,19 @@ const NameRow* findRow(std::string_view base) {
     return found;
 }
 
+// An element of a list, which has as many as stand in it now; nothing behind its end and of a value that is
+// none.
+std::optional<StateValue> elementOf(const StateValue::Place& list, std::size_t index) {
+    return std::visit(
+        [index](auto* value) -> std::optional<StateValue> {
+            if constexpr (IsList<std::remove_pointer_t<decltype(value)>>::value) {
+                if (index < value->size()) return StateValue(std::addressof((*value)[index]));
+            }
+            return std::nullopt;
+        },
+        list);
+}
+
 // --- Values as texts ---
 
 std::string textOf(const std::string& value) { return value; }
@@ -403,8 +420,11 @@ std::optional<StateValue> findStateValue(ReturnState& state, std::string_view na
     const auto split = splitName(name);
     if (!split) return std::nullopt;
     const NameRow* const row = findRow(split->base);
-    if (row == nullptr || split->index.has_value() == (row->shape == Shape::Single)) return std::nullopt;
-    const std::size_t index = split->index.value_or(0);
+    if (row == nullptr) return std::nullopt;
+    if (row->shape == Shape::Single)
+        return split->index ? elementOf(row->at(state, 0), *split->index) : StateValue(row->at(state, 0));
+    if (!split->index) return std::nullopt;
+    const std::size_t index = *split->index;
     if (index >= row->count) return std::nullopt;
     return StateValue(row->at(state, index));
 }

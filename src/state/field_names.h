@@ -37,9 +37,10 @@ class StateValue {
     Place place;
 };
 
-/// The value of that name. An index stands in [ ] or ( ). A member of a record is also found without its
-/// record's name when no other value bears the member's. Nothing for an unknown name or an index outside the
-/// array.
+/// The value of that name. An index stands in [ ] or ( ); a list is read whole without one. A member of a
+/// record is also found without its record's name when no other value bears the member's. Nothing for an
+/// unknown name or an index outside the array. An element of a list is valid until the list changes its
+/// length.
 std::optional<StateValue> findStateValue(ReturnState& state, std::string_view name);
 
 /// Calls `visit` for every value of the return in a fixed order, that of ReturnState. The lookup lists, which

@@ -5,16 +5,11 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace lodge {
 
 namespace {
-
-// Entries of strFldPage1.
-constexpr std::size_t normalFiling = 7;
-constexpr std::size_t advancePayment = 8;
-constexpr std::size_t additionalFiling = 9;
-constexpr std::size_t additionalNumber = 10;
 
 constexpr std::size_t earlierYears = 8;
 
@@ -33,15 +28,29 @@ void setFilingType(ReturnState& state) {
     state.strFilingType = "0";
     state.strAddNo = "00";
     const FieldArray& page1 = state.strFldPage1;
-    if (page1[normalFiling] == "1") {
+    if (page1[filing::normal] == "1") {
         state.strFilingType = "1";
-    } else if (page1[additionalFiling] == "1") {
+    } else if (page1[filing::additional] == "1") {
         state.strFilingType = "2";
-        const std::string& number = page1[additionalNumber];
+        const std::string& number = page1[filing::additionalNumber];
         state.strAddNo = textLength(number) == 1 ? "0" + number : number;
-    } else if (page1[advancePayment] == "1") {
+    } else if (page1[filing::advancePayment] == "1") {
         state.strFilingType = "3";
     }
+}
+
+void restoreFilingBoxes(ReturnState& state) {
+    const auto set = [&page1 = state.strFldPage1](std::string_view normal, std::string_view advancePayment,
+                         std::string_view additional, std::string_view number) {
+        page1[filing::normal] = normal;
+        page1[filing::advancePayment] = advancePayment;
+        page1[filing::additional] = additional;
+        page1[filing::additionalNumber] = number;
+    };
+    if (state.strFilingType == "1") set("1", "0", "0", "");
+    if (state.strFilingType == "2") set("0", "0", "1", state.strAddNo);
+    // The "2" is meant: it is no tick of the additional filing, and tells an advance payment from one.
+    if (state.strFilingType == "3") set("0", "1", "2", "");
 }
 
 int carryYears(const ReturnState& state) {

@@ -15,7 +15,7 @@ std::string shownAsLoss(double amount) { return "(" + formatMoney(std::abs(amoun
 bool sameAmount(double one, double other) { return roundMoney(one - other) == 0.0; }
 
 bool passesMoneyCheck(std::string_view typed, Notifier& notifier) {
-    return typed.empty() || ChkMoney(xx_Val(typed), notifier) == "1";
+    return typed.empty() || ChkMoney(typed, notifier) == "1";
 }
 
 void showPlainDigits(TextBox& box) { box.setText(plainAmount(box.text())); }

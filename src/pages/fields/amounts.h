@@ -25,6 +25,7 @@ namespace lodge {
 [[nodiscard]] bool sameAmount(double one, double other);
 
 /// Whether what was typed is an amount; an empty text is not looked at. A refusal has shown its message.
+/// Brackets and blanks are none: a box shows plain digits while it is typed into.
 [[nodiscard]] bool passesMoneyCheck(std::string_view typed, Notifier& notifier);
 
 /// Shows plain digits while the box has the focus.

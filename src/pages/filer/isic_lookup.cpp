@@ -56,7 +56,6 @@ std::string brokenName(std::string_view name) {
 frmLodgeISIC::frmLodgeISIC(Program& program)
     : Form(program.desk, formName, "ค้นหากิจการที่ประกอบ ( ISIC Code )"), program_(program) {
     txtSearchISIC.setTextKind(TextKind::Number);
-    txtSearchISIC.setMaxLength(static_cast<int>(codeLength));
     txtISICName.setTextKind(TextKind::MultiLine);
     txtISICName.setLocked(true);
     txtISICName.setBack(BackColour::Button);

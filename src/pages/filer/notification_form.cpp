@@ -49,7 +49,6 @@ constexpr std::array checkRows{
 
 bool refuse(frmLodgePage8& page, std::string_view code) {
     page.program().refuse(code, page.mskDate1);
-    page.program().state.intError = 1; // behind the check of the field that lost the focus
     return false;
 }
 

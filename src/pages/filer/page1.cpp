@@ -21,10 +21,6 @@ constexpr std::int16_t loadedReturn = 0;
 constexpr std::int16_t newReturn = 1;
 constexpr std::int16_t returnShown = 3; // page 1 has been shown
 
-// Entries of strFldPage1 that the filing boxes write at once.
-constexpr std::size_t advancePayment = 8;
-constexpr std::size_t additionalFiling = 9;
-
 // Entries of strFldPage2 that an additional filing adds to.
 constexpr std::size_t payMore4 = 28;
 constexpr std::size_t overpaid4 = 29;
@@ -361,7 +357,7 @@ void frmLodgePage1::chkAdvance_Click() {
         chkAdd.setValue(false);
         closeAdditionalNumber();
     }
-    program_.state.strFldPage1[advancePayment] = chkAdvance.reading();
+    program_.state.strFldPage1[filing::advancePayment] = chkAdvance.reading();
 }
 
 void frmLodgePage1::chkAdd_Click() {
@@ -370,7 +366,7 @@ void frmLodgePage1::chkAdd_Click() {
         chkAdvance.setValue(false);
         txtAddNo.setEnabled(true);
     }
-    program_.state.strFldPage1[additionalFiling] = chkAdd.reading();
+    program_.state.strFldPage1[filing::additional] = chkAdd.reading();
     if (!chkAdd.value()) {
         leaveAdditionalFiling();
     }

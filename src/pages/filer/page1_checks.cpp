@@ -32,9 +32,7 @@ bool businessLineIsChosen(const frmLodgePage1& page) {
 }
 
 bool refuse(frmLodgePage1& page, std::string_view code, Control& focus) {
-    page.program().message(code);
-    focus.setFocus();
-    page.program().state.intError = 1; // behind the check of the field that lost the focus
+    page.program().refuse(code, focus);
     return false;
 }
 
@@ -225,10 +223,13 @@ void P1_CheckForm(Program& program) {
 std::span<const CheckRow> page1CheckRows() { return checkRows; }
 
 void P1_CheckData(Program& program) {
+    // The store itself leads to the page's first field. A field that had the focus on the way there would be
+    // left again, and its own check would add a second message and empty it.
+    constexpr std::string_view noForm;
     const std::span<const CheckRow> rows = page1CheckRows();
-    if (runChecks(program, frmLodgePage1::formName, rows.first(rowsOfAuditor))) {
+    if (runChecks(program, noForm, rows.first(rowsOfAuditor))) {
         blankStateAuditOffice(program.state);
-        runChecks(program, frmLodgePage1::formName, rows.subspan(rowsOfAuditor));
+        runChecks(program, noForm, rows.subspan(rowsOfAuditor));
     }
 }
 

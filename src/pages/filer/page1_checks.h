@@ -13,8 +13,9 @@ namespace lodge {
 /// page is not loaded. Asks once a return whether the web site was forgotten.
 void P1_CheckForm(Program& program);
 
-/// The full check, over strFldPage1. The first refusal sets `intError`. Between its rows the store puts
-/// blanks into what the State Audit Office leaves open, so that later steps pass without auditor data.
+/// The full check, over strFldPage1. The first refusal sets `intError` and leaves the focus to the store.
+/// Between its rows the store puts blanks into what the State Audit Office leaves open, so that later steps
+/// pass without auditor data.
 void P1_CheckData(Program& program);
 
 /// The rows of the full check in their order; none of them writes.

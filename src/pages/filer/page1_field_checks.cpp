@@ -50,8 +50,8 @@ bool refused(frmLodgePage1& page, Control& focus) {
 }
 
 bool refused(frmLodgePage1& page, Control& focus, std::string_view code) {
-    page.program().message(code);
-    return refused(page, focus);
+    page.program().refuse(code, focus);
+    return false;
 }
 
 bool emptied(frmLodgePage1& page, TextBox& box) {

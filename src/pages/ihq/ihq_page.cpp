@@ -353,8 +353,4 @@ void IHQ_FormToBox(Program& program) {
     if (auto* page = program.desk.find<frmIHQ>()) page->FormToBox();
 }
 
-void IHQ_BoxToForm(Program& program) {
-    if (auto* page = program.desk.find<frmIHQ>()) page->BoxToForm();
-}
-
 } // namespace lodge

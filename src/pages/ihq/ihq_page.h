@@ -87,8 +87,7 @@ class frmIHQ : public PageForm {
     Program& program_;
 };
 
-/// For the shell: fills the page, takes it into the record.
+/// For the shell: fills the page. Nothing is left to take from it when it is left.
 void IHQ_FormToBox(Program& program);
-void IHQ_BoxToForm(Program& program);
 
 } // namespace lodge

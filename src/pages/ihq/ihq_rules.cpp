@@ -1,5 +1,6 @@
 #include "pages/ihq/ihq_rules.h"
 
+#include "pages/fields/amounts.h"
 #include "pages/fields/days.h"
 #include "values/dates.h"
 #include "values/money.h"
@@ -31,9 +32,7 @@ int lengthOfMonth(int month, int buddhistYear) {
 
 std::string FormatBox(std::string_view text) { return formatBracketText(text); }
 
-bool ChkBoxNum(std::string_view text, Notifier& notifier) {
-    return text.empty() || ChkMoney(text, notifier) == "1";
-}
+bool ChkBoxNum(std::string_view text, Notifier& notifier) { return passesMoneyCheck(text, notifier); }
 
 bool CheckDate(std::string_view text) {
     constexpr std::size_t digitsOfDate = 8;

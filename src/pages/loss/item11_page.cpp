@@ -75,9 +75,15 @@ void frmLodgePage6_11::Form_Load() {
 
 void frmLodgePage6_11::Form_Activate() {
     switchCarriedCell();
-    Command1.setVisible(!program_.state.blnIHQPage);
     showSum();
     ShowButton();
+    if (program_.state.blnIHQPage) closeForHeadquarters();
+}
+
+void frmLodgePage6_11::closeForHeadquarters() {
+    Command1.setVisible(false);
+    for (Control* control : controls())
+        control->setEnabled(false);
 }
 
 void frmLodgePage6_11::Form_Unload() { unsigned_.restore(); }

@@ -80,6 +80,8 @@ class frmLodgePage6_11 : public PageForm {
     void Command1_Click();
     void showSum();
     void switchCarriedCell();
+    /// A headquarters lists its periods in its attachment.
+    void closeForHeadquarters();
     void refuse(std::string_view code);
 
     Program& program_;

@@ -83,8 +83,12 @@ bool isLongerThanAYear(const NewPeriod& period) {
     return DateFromText(period.end) > latest;
 }
 
+/// Whether the end lies before the day that stands so many days behind the start. A typed start lets an end
+/// pass that lies one day before it, a typed end must lie behind its start: the two bounds differ, and are
+/// meant to.
+template <int DaysFromStart>
 bool endsBeforeItStarts(const NewPeriod& period) {
-    return bothAreReadable(period) && DateFromText(period.end) < DateFromText(period.start) - 1;
+    return bothAreReadable(period) && DateFromText(period.end) < DateFromText(period.start) + DaysFromStart;
 }
 
 bool isOneDay(const NewPeriod& period) { return bothAreReadable(period) && period.start == period.end; }
@@ -101,17 +105,18 @@ constexpr std::array<NewPeriodRule, 8> startRules = {{
     {"M152", promotedEndsInReturnsPeriod, true},
     {"M120", endsInReturnsPeriod, true},
     {"M147", isLongerThanAYear},
-    {"M148", endsBeforeItStarts},
+    {"M148", endsBeforeItStarts<-1>},
     {"M542", isOneDay},
 }};
 
+// A period of one day breaks the row on its end already, so that M542 never comes to word here.
 constexpr std::array<NewPeriodRule, 8> endRules = {{
     {"M102", [](const NewPeriod& p) { return p.start.empty(); }},
     {"M026", [](const NewPeriod& p) { return !isReadable(p.end); }},
     {"M152", promotedEndsInReturnsPeriod, true},
     {"M120", endsInReturnsPeriod, true},
     {"M147", isLongerThanAYear},
-    {"M148", endsBeforeItStarts},
+    {"M148", endsBeforeItStarts<1>},
     {"M542", isOneDay},
     {"M537", reachesLastEntry},
 }};

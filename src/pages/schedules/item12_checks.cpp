@@ -44,10 +44,17 @@ bool sidesDiffer(const CheckContext& context) {
     return !sameAmount(sides.here, sides.there);
 }
 
+/// The first company status of page 1, and of page 2 the case of a reduced rate with its label.
+constexpr std::size_t ordinaryCompany = 12;
+constexpr std::size_t reducedRate = 26;
+constexpr std::size_t rateLabel = 44;
+constexpr std::string_view cappedRateLabel = "(2.5)";
+
 bool capitalTooLargeForRate(const CheckContext& context) {
     const ReturnState& state = context.state;
-    return readFigure(state.strFldPage1[12]) != 0 && readFigure(state.strFldPage2[26]) != 0
-           && state.strFldPage2[44] == "(2.5)"
+    return readFigure(state.strFldPage1[ordinaryCompany]) != 0
+           && readFigure(state.strFldPage2[reducedRate]) != 0
+           && state.strFldPage2[rateLabel] == cappedRateLabel
            && readFigure(state.strFldPage7_12[paidUpCapital]) > largestSmallCapital;
 }
 

@@ -116,7 +116,7 @@ void frmLodgePage7_12::PageChk() {
 
 /// Shows the cell as an amount and recomputes the sums. False, with the cell emptied, when it is none.
 bool frmLodgePage7_12::MoneyChk(TextBox& box) {
-    const bool accepted = box.text().empty() || ChkMoney(box.text(), program_) == "1";
+    const bool accepted = passesMoneyCheck(box.text(), program_);
     if (!accepted) {
         box.setText("");
         program_.state.intError = 1;

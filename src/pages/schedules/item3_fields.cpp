@@ -10,8 +10,6 @@ namespace lodge {
 
 namespace {
 
-std::string flag(bool ticked) { return ticked ? "1" : "0"; }
-
 struct TickField {
     std::size_t entry;
     CheckBox frmLodgePage3_3::*box;
@@ -87,7 +85,7 @@ void frmLodgePage3_3::P3_3_ControlsToArray() {
     }
     fields[line22Entry] = plainAmount(lblTotMoney33.caption());
     for (const TickField& tick : tickFields)
-        fields[tick.entry] = flag((this->*tick.box).value());
+        fields[tick.entry] = (this->*tick.box).reading();
     for (const Item3SubLine& subLine : item3SubLines()) {
         std::string packed = "|";
         for (const Column column : allColumns)

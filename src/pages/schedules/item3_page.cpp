@@ -11,6 +11,10 @@ constexpr std::string_view headquartersStatus = "15";
 /// Other income: a headquarters company has none, its line stays closed.
 constexpr int otherIncomePlace = 3;
 
+/// The walk over the page ends with line 19. Line 20 and the further items of line 17, which the form got
+/// later, are checked where they are typed and not once more when the page is left.
+constexpr int lastWalkedPlace = 18;
+
 } // namespace
 
 frmLodgePage3_3::frmLodgePage3_3(Program& program)
@@ -57,10 +61,8 @@ void frmLodgePage3_3::Form_Load() {
     EnableColumn1(state.intP1Box1 >= 1);
     EnableColumn2(state.intP1Box2 >= 1);
     state.intPageCur = pageCode;
-    for (Control* control : {static_cast<Control*>(&chkProfitX), static_cast<Control*>(&chkLoseX),
-             static_cast<Control*>(&txtBOI)}) {
+    for (Control* control : sideBox())
         control->setVisible(!txtBOI.text().empty());
-    }
 }
 
 void frmLodgePage3_3::Form_Activate() {
@@ -87,7 +89,8 @@ void frmLodgePage3_3::P3_3_CheckPage() {
     CheckScratchRecord& scratch = program_.state.PageChk;
     for (const Column column : inputColumns) {
         for (const Item3Line& line : item3Lines()) {
-            if (line.isComputed() || columns.cell(column, line).text().empty()) continue;
+            if (line.isComputed() || line.place > lastWalkedPlace) continue;
+            if (columns.cell(column, line).text().empty()) continue;
             showPlainDigits(*columns.box(column, line.place));
             scratch.CurrentLine = static_cast<std::int16_t>(line.place);
             scratch.SilentCheck = 1;

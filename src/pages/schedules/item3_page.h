@@ -10,6 +10,8 @@
 #include "program/page_form.h"
 #include "program/program.h"
 
+#include <array>
+
 namespace lodge {
 
 class frmLodgePage3_3 : public PageForm {
@@ -41,7 +43,8 @@ class frmLodgePage3_3 : public PageForm {
     /// checked first; a bad figure empties it, takes the focus, sets `intError` and ends the computation
     /// unless PageChk.SilentCheck is 1.
     void P3_3_Recalculate(Column column);
-    /// Checks and computes every filled line; the first bad figure sets `intError` and ends the walk.
+    /// Checks and computes every filled line down to line 19; the first bad figure sets `intError` and ends
+    /// the walk.
     void P3_3_CheckPage();
 
     void EnableColumn1(bool open) { enableColumn(Column::Exempt, open); }
@@ -64,6 +67,7 @@ class frmLodgePage3_3 : public PageForm {
     void computeLine22();
 
     [[nodiscard]] bool hasBothColumns() const;
+    [[nodiscard]] std::array<Control*, 3> sideBox();
     void offerSideBox();
     void withdrawSideBox();
     void copySideTicks();

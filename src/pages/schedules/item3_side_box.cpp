@@ -19,9 +19,10 @@ bool frmLodgePage3_3::hasBothColumns() const {
            && !columns.cell(Column::Taxable, item3Line(21)).text().empty();
 }
 
+std::array<Control*, 3> frmLodgePage3_3::sideBox() { return {&chkProfitX, &chkLoseX, &txtBOI}; }
+
 void frmLodgePage3_3::offerSideBox() {
-    for (Control* control : {static_cast<Control*>(&chkProfitX), static_cast<Control*>(&chkLoseX),
-             static_cast<Control*>(&txtBOI)}) {
+    for (Control* control : sideBox()) {
         control->setVisible(true);
         control->setEnabled(true);
     }
@@ -31,8 +32,7 @@ void frmLodgePage3_3::withdrawSideBox() {
     chkProfitX.setValue(false);
     chkLoseX.setValue(false);
     txtBOI.setText("");
-    for (Control* control : {static_cast<Control*>(&chkProfitX), static_cast<Control*>(&chkLoseX),
-             static_cast<Control*>(&txtBOI)}) {
+    for (Control* control : sideBox()) {
         control->setVisible(false);
         control->setEnabled(false);
     }

@@ -142,7 +142,7 @@ void ScheduleForm::MoneyChk(Column column) {
     const Row* row = rowOf(edited);
     if (row == nullptr || row->line->isComputed()) return;
     auto& box = static_cast<TextBox&>(*row->cells[slot(column)]);
-    if (!box.text().empty() && ChkMoney(box.text(), program_) != "1") {
+    if (!passesMoneyCheck(box.text(), program_)) {
         box.setText("");
         program_.state.intError = 1;
         if (scratch.SilentCheck == 0) box.setFocus();

@@ -1,5 +1,6 @@
 // The amount boxes of item 2 and the labels that other pages live on.
 #include "pages/tax/page2.h"
+#include "pages/tax/page2_fields.h"
 #include "values/money.h"
 #include "values/text.h"
 
@@ -12,7 +13,6 @@ namespace {
 
 constexpr const char* nil = "0.00";
 constexpr const char* lossStatus = "2";
-constexpr std::int16_t receiptsCase = 3;
 
 /// Longest amounts without separators: a loss has its brackets.
 constexpr std::size_t longestLoss = 18;
@@ -34,16 +34,8 @@ void frmLodgePage2::wireAmountBoxes() {
 
 /// Item 3 comes first: a click into an amount before it is complete says so.
 void frmLodgePage2::txtMoney_Click() {
-    const FieldArray& item3 = state().strFldPage3_3;
-    const bool bothColumns = !item3[19].empty() && !item3[39].empty();
-    std::string_view message;
-    if (item3[59].empty() || item3[60].empty()) {
-        message = bothColumns ? "M529" : "M523";
-    } else if (bothColumns && !state().BoxProfit && !state().BoxLoss) {
-        message = "M530";
-    } else {
-        return;
-    }
+    const std::string_view message = whatItem3Lacks();
+    if (message.empty()) return;
     txtMoney[2].setFocus();
     program_.message(message);
 }
@@ -69,7 +61,9 @@ void frmLodgePage2::txtMoney_LostFocus(int i) {
     state().PageChk.CurrentLine = static_cast<std::int16_t>(i);
     if (!TaxCalculate()) return;
     if (i != 0) return;
-    if (!greenRequired_ || !Cmd_Deposit.enabled()) {
+    // The green sheet gives the tax of a profit alone: a bank, too, types its loss or its receipts.
+    const bool sheetGivesTax = greenRequired_ && Cmd_Deposit.enabled() && chkTaxPay[0].value();
+    if (!sheetGivesTax) {
         taxOfLine1();
         computeBalance(); // the balance follows the tax that line 1 has just given
     }
@@ -96,7 +90,7 @@ void frmLodgePage2::taxOfLine1() {
     }
     if (box.text().empty()) return; // nothing stated, nothing owed: not even nil
     const double amount = MoneyTextToDouble(box.text());
-    if (tax().Select_2_1 == receiptsCase) {
+    if (tax().Select_2_1 == receiptsTaxCase) {
         txtNTax.setText(DoubleToMoneyText(CalcTaxByRate(receiptsCode, amount)));
     } else {
         txtNTax.setText(formatMoney(std::max(CalcTaxByRate(tax().nRateCode, amount), 0.0)));

@@ -42,7 +42,10 @@ constexpr std::size_t taxTotal = 5;
 
 std::string FormatMoney(std::string_view text) { return formatBracketText(text); }
 
-bool IsAmountText(std::string_view text) { return text.empty() || isNumericText(text); }
+bool IsAmountText(std::string_view text) {
+    SilentNotifier silent; // the sheet has one message for every text that is no amount
+    return text.empty() || ChkMoney(text, silent) == "1";
+}
 
 void clearGreenArray(ReturnState& state) {
     for (std::string& entry : state.strFldPage1_2)

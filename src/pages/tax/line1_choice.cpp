@@ -68,15 +68,7 @@ void frmLodgePage2::chkTaxPay_Click(int i) {
 
 /// Line 1 needs a complete item 3, and an exempt business declares neither profit nor receipts.
 bool frmLodgePage2::refuseTick(int i) {
-    const FieldArray& item3 = state().strFldPage3_3;
-    const bool bothColumns = !item3[19].empty() && !item3[39].empty();
-    std::string_view message;
-    if (item3[59].empty() || item3[60].empty()) {
-        message = bothColumns ? "M529" : "M523";
-    } else if (bothColumns && !state().BoxProfit && !state().BoxLoss) {
-        message = "M530";
-    }
-    if (!message.empty()) {
+    if (const std::string_view message = whatItem3Lacks(); !message.empty()) {
         clearWorksheetTexts();
         takeBackTick(i, message);
         return true;

@@ -200,6 +200,13 @@ std::string frmLodgePage2::payStatusOnPage() const {
 
 bool frmLodgePage2::hasBankCode() const { return lodge::hasBankCode(state()); }
 
+std::string_view frmLodgePage2::whatItem3Lacks() const {
+    const FieldArray& item3 = state().strFldPage3_3;
+    const bool bothColumns = !item3[19].empty() && !item3[39].empty();
+    if (item3[59].empty() || item3[60].empty()) return bothColumns ? "M529" : "M523";
+    return bothColumns && !state().BoxProfit && !state().BoxLoss ? "M530" : "";
+}
+
 void P2_ArrayToControls(Program& program) {
     if (auto* page = program.desk.find<frmLodgePage2>()) {
         normalisePage2(program.state);

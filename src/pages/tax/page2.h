@@ -126,6 +126,8 @@ class frmLodgePage2 : public PageForm, public BusinessLinePage {
     [[nodiscard]] ReturnState& state() const { return program_.state; }
     [[nodiscard]] TaxRecord& tax() const { return program_.state.DataCtrl_P2; }
     [[nodiscard]] bool hasBankCode() const;
+    /// The message of what item 3 still lacks before item 2 can be stated; empty for nothing.
+    [[nodiscard]] std::string_view whatItem3Lacks() const;
     void enableRateBoxes();
     [[nodiscard]] std::string payStatusOnPage() const;
 

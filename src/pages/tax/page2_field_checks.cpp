@@ -1,21 +1,15 @@
 // The checks of single fields of page 2: on leaving a field, and all of them when the page is left.
+#include "pages/fields/days.h"
 #include "pages/tax/page2.h"
-#include "values/dates.h"
 #include "values/money.h"
 
 namespace lodge {
 
 namespace {
 
-/// A year below this is of the Christian era, whichever calendar the machine keeps.
-constexpr int firstBuddhistYear = 2400;
-
 /// The day before the same day some years later, as a date text: the last day of a privilege.
-std::string lastDayOfYears(const std::string& firstDay, int years) {
-    const Date first{std::chrono::year(std::stoi(firstDay.substr(4)) - buddhistEraOffset),
-        std::chrono::month(static_cast<unsigned>(std::stoi(firstDay.substr(2, 2)))),
-        std::chrono::day(static_cast<unsigned>(std::stoi(firstDay.substr(0, 2))))};
-    return dateText(AddDays(AddYears(first, years), -1));
+std::string lastDayOfYears(Date firstDay, int years) {
+    return dateText(AddDays(AddYears(firstDay, years), -1));
 }
 
 } // namespace
@@ -39,13 +33,7 @@ void frmLodgePage2::P2_CheckFields() {
     }
 }
 
-std::string frmLodgePage2::todayYMD() const {
-    std::string today = isoText(program_.host().today());
-    std::erase(today, '-');
-    const int year = std::stoi(today.substr(0, 4));
-    if (year < firstBuddhistYear) today.replace(0, 4, std::to_string(year + buddhistEraOffset));
-    return today;
-}
+std::string frmLodgePage2::todayYMD() const { return DateToYMD(dateText(program_.host().today())); }
 
 bool frmLodgePage2::refuseDate(std::string_view code, MaskedBox& box) {
     program_.refuse(code, box);
@@ -80,13 +68,14 @@ bool frmLodgePage2::ChkDateFrom() {
     MaskedBox& from = mskDateFrom[scratch.CurrentLine];
     MaskedBox& to = mskDateTo[scratch.CurrentLine];
     if (from.digits().empty()) return true;
-    if (ChkDate(from.digits()).empty()) return refuseDate("M026", from);
+    const std::optional<Date> firstDay = dayOf(from.digits());
+    if (!firstDay) return refuseDate("M026", from);
     if (DateToYMD(from.digits()) >= todayYMD()) {
         to.setDigits("");
         return refuseDate("M032", from);
     }
     const int years = static_cast<int>(readNumber(txtYearNo[scratch.CurrentLine].text()));
-    if (scratch.SilentCheck != 1 && years > 0) to.setDigits(lastDayOfYears(from.digits(), years));
+    if (scratch.SilentCheck != 1 && years > 0) to.setDigits(lastDayOfYears(*firstDay, years));
     return true;
 }
 

@@ -46,10 +46,6 @@ constexpr std::array<Page2Field, 43> fields = {{
 /// Statuses whose nil result of item 3 is no loss.
 constexpr std::array<std::string_view, 6> statusesWithoutNilLoss = {"14", "9", "16", "17", "18", "19"};
 
-// The cases of line 2 as a return carries them; the general one is carried by none.
-constexpr std::int16_t reducedCase = 2;
-constexpr std::int16_t receiptsCase = 3;
-
 Control& controlOf(const Form& page, const Page2Field& field) { return *page.find(field.control); }
 
 std::string maskOrNothing(const MaskedBox& box) { return box.digits().empty() ? std::string() : box.text(); }
@@ -84,8 +80,8 @@ void copyRate(const TaxRecord& from, TaxRecord& to) {
 bool bearsOutCase(
     const frmLodgePage2& page, const FieldArray& stored, const std::optional<std::int16_t>& taxCase) {
     if (!taxCase) return stored[generalCaseEntry] == "1" && page.chkTaxCal[0].value();
-    if (*taxCase == reducedCase) return page.chkTaxCal[1].value();
-    return *taxCase == receiptsCase && page.chkTaxCal[2].value();
+    if (*taxCase == reducedTaxCase) return page.chkTaxCal[1].value();
+    return *taxCase == receiptsTaxCase && page.chkTaxCal[2].value();
 }
 
 /// While an array is on its way into the page, a tick is no person's.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <span>
 #include <string_view>
 
@@ -24,7 +25,13 @@ struct Page2Field {
 /// number and have none.
 [[nodiscard]] std::span<const Page2Field> page2Fields();
 
+/// The cases of line 2 as `Select_2_1` carries them; the general one is carried by none.
+inline constexpr std::int16_t reducedTaxCase = 2;
+inline constexpr std::int16_t receiptsTaxCase = 3;
+
 inline constexpr std::size_t generalCaseEntry = 25;
+inline constexpr std::size_t reducedCaseEntry = 26;
+inline constexpr std::size_t receiptsCaseEntry = 27;
 inline constexpr std::size_t taxEntry = 33;
 inline constexpr std::size_t rateCodeEntry = 44;
 inline constexpr std::size_t rateNumberEntry = 45;

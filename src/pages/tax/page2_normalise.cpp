@@ -1,5 +1,6 @@
 #include "pages/tax/page2_normalise.h"
 
+#include "pages/tax/page2_fields.h"
 #include "values/money.h"
 
 #include <algorithm>
@@ -10,10 +11,6 @@
 namespace lodge {
 
 namespace {
-
-constexpr std::size_t generalCase = 25;
-constexpr std::size_t reducedCase = 26;
-constexpr std::size_t receiptsCase = 27;
 
 /// Status boxes, as entries of strFldPage1, that allow no general case, and those that allow no reduced one.
 constexpr std::array<std::size_t, 5> statusesWithoutGeneral = {13, 14, 19, 21, 49};
@@ -66,14 +63,14 @@ const std::string& storedTax(const ReturnState& state) {
 void normalisePage2(ReturnState& state) {
     FieldArray& fields = state.strFldPage2;
     const bool receipts = isOne(fields[24]);
-    if (isOne(state.strFldPage1[12]) && !receipts) fields[receiptsCase] = no;
+    if (isOne(state.strFldPage1[12]) && !receipts) fields[receiptsCaseEntry] = no;
     if (anyTicked(state, statusesWithoutGeneral)) {
-        withdraw(state, generalCase);
-        if (!receipts) withdraw(state, receiptsCase);
+        withdraw(state, generalCaseEntry);
+        if (!receipts) withdraw(state, receiptsCaseEntry);
     }
-    if (anyTicked(state, statusesWithoutReduced)) withdraw(state, reducedCase);
+    if (anyTicked(state, statusesWithoutReduced)) withdraw(state, reducedCaseEntry);
     if (anyTicked(state, statusesWithTypedTax)) {
-        for (const std::size_t entry : {generalCase, reducedCase, receiptsCase})
+        for (const std::size_t entry : {generalCaseEntry, reducedCaseEntry, receiptsCaseEntry})
             fields[entry] = no;
         fields[44].clear();
     }

@@ -2,6 +2,7 @@
 #include "pages/fields/ticks.h"
 #include "pages/tax/green_sheet.h"
 #include "pages/tax/page2.h"
+#include "pages/tax/page2_fields.h"
 #include "values/money.h"
 
 namespace lodge {
@@ -154,15 +155,21 @@ void frmLodgePage2::singleRateClicked(CheckBox& box) {
 
 void frmLodgePage2::chkTaxCal_Click(int i) {
     tax().Select_2_1.reset();
+    // A case that goes leaves the other in force: receipts stay receipts when the rate of a former profit
+    // is taken back behind them.
+    if (!chkTaxCal[i].value()) {
+        if (chkTaxCal[1].value()) tax().Select_2_1 = reducedTaxCase;
+        if (chkTaxCal[2].value()) tax().Select_2_1 = receiptsTaxCase;
+    }
     if (i == 2 && chkTaxCal[2].value()) {
         const double onPage = readFigure(txtMoney[0].text());
         const double amount = onPage > 0 ? onPage : readFigure(state().strFldPage2[32]);
         const std::string receiptsTax = formatMoney(CalcTaxByRate(receiptsCode, amount));
         state().strFldPage2[33] = plainAmount(receiptsTax);
         lblMoney1.setCaption(receiptsTax);
-        tax().Select_2_1 = 3;
+        tax().Select_2_1 = receiptsTaxCase;
     }
-    if (i == 1 && chkTaxCal[1].value()) tax().Select_2_1 = 2;
+    if (i == 1 && chkTaxCal[1].value()) tax().Select_2_1 = reducedTaxCase;
     if (chkTaxCal[1].value()) tickOnlyOpenRate();
 }
 

@@ -172,6 +172,24 @@ TEST(StoreReturn, TellsWhenTheFolderIsMissing) {
     EXPECT_NE(storeReturn(state, "/nowhere/at/all", "1", moment()).error, "");
 }
 
+// The id and the year may come from a file of somebody else's making.
+TEST(StoreReturn, StoresNothingUnderANameThatLeavesTheFolderOrEndsEarly) {
+    const WorkFolder folder;
+    std::filesystem::create_directory(folder.path("temp"));
+    for (const std::string& id : {std::string("../evil"), std::string("..\\evil"), std::string("sub/evil"),
+             std::string("evil\0", 5), std::string("evil\n")}) {
+        ReturnState state;
+        state.strFileName = "as before";
+        EXPECT_NE(storeReturn(state, folder.path("temp"), id, moment()).error, "") << id;
+        EXPECT_EQ(state.strFileName, "as before");
+    }
+    ReturnState state;
+    state.strFinishDDMMYY = "3112/abc";
+    EXPECT_NE(storeReturn(state, folder.path("temp"), "..", moment()).error, "");
+    EXPECT_EQ(folder.names(), std::vector<std::string>{"temp"});
+    EXPECT_TRUE(std::filesystem::is_empty(folder.path("temp")));
+}
+
 TEST(InnerFiles, ArePackedOrPlainByTheirContent) {
     const WorkFolder folder;
     const InnerFile packed = readInnerFile(storedReturn("ordinary-company", "C"));

@@ -157,7 +157,7 @@ TEST_F(IsicDialog, ASearchThatFindsNothingIsM115) {
 
 TEST_F(IsicDialog, ACodeHasSixDigits) {
     frmLodgeISIC& dialog = open();
-    for (const char* code : {"47111", "4711A0"}) {
+    for (const char* code : {"47111", "4711101", "4711A0"}) {
         user.type(dialog.txtSearchISIC, code);
         user.click(dialog.cmdSearch);
         EXPECT_EQ(shown(), Texts{"ต้องระบุตัวเลขรหัส ISIC ให้ครบทั้ง 6 หลัก"}) << "and no M115 behind it";

@@ -677,11 +677,12 @@ TEST_F(FullCheck, TheStateAuditOfficeKeepsWhatItHas) {
     EXPECT_EQ(p[46], auditOffice);
 }
 
-TEST_F(FullCheck, ARefusalPutsTheFocusOnItsFieldWhenThePageIsOnScreen) {
+TEST_F(FullCheck, ARefusalLeavesTheFocusWhereItIs) {
     frmLodgePage1& page = newReturn();
+    page.txtSitename.setFocus();
     state.strFldPage1[47] = "";
     EXPECT_FALSE(passes(P1_CheckData));
-    EXPECT_TRUE(page.txtAccOfficeNid.hasFocus());
+    EXPECT_TRUE(page.txtSitename.hasFocus());
 }
 
 TEST_F(FullCheck, EveryRowNamesAControlOfThePage) {

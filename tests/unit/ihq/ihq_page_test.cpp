@@ -144,7 +144,7 @@ TEST_F(IhqPage, ShowsItsRecordAndTakesItBack) {
     EXPECT_EQ(again.txtMoney1[19].text(), "19,000.00");
     EXPECT_EQ(again.txtG1.text(), "0.00");
     EXPECT_EQ(again.txtG2.text(), "3,000.00");
-    IHQ_BoxToForm(program);
+    again.BoxToForm();
     EXPECT_TRUE(same(record(), fullRecord()));
 }
 
@@ -157,7 +157,7 @@ TEST_F(IhqPage, ShowingTheRecordLeavesItToTheLetter) {
 }
 
 TEST_F(IhqPage, AnEmptyRecordStaysEmpty) {
-    IHQ_BoxToForm(program);
+    page.BoxToForm();
     HeadquartersRecord empty;
     empty.PeriodStart = "01012561";
     empty.PeriodEnd = "31122561";
@@ -167,8 +167,7 @@ TEST_F(IhqPage, AnEmptyRecordStaysEmpty) {
 TEST_F(IhqPage, KeepsTheFiguresOfAClosedColumn) {
     record() = fullRecord();
     state().intP1Box2 = 0;
-    openAgain();
-    IHQ_BoxToForm(program);
+    openAgain().BoxToForm();
     EXPECT_TRUE(same(record(), fullRecord()));
 }
 

@@ -24,7 +24,6 @@ void fill(IhqDesktop& desktop) {
     desktop.type(page, "txtMoney1(2)", "30");
     desktop.type(page, "txtG1", "70");
     desktop.type(page, "txtG2", "0");
-    IHQ_BoxToForm(desktop.program);
     desktop.expectNoMessage();
     desktop.state().strVersion = "2561.00";
 }

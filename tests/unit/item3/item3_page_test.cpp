@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace lodge {
 namespace {
 
@@ -149,6 +151,18 @@ TEST_F(Item3Page, Line20HasItsOwnEntries) {
     EXPECT_EQ(fields[68], "42.00");
     EXPECT_EQ(fields[69], "42.00");
     EXPECT_EQ(fields[39], "42.00");
+}
+
+TEST_F(Item3Page, LeavingThePageChecksItsLinesDownTo19) {
+    for (const auto& [entry, messages] : {std::pair(38U, 1U), std::pair(68U, 0U), std::pair(81U, 0U)}) {
+        fields = {};
+        fields[entry] = entry == 81U ? "||10000000000000|10000000000000|" : "10000000000000";
+        program.state.intError = 0;
+        host.shown.clear();
+        show();
+        leave();
+        EXPECT_EQ(host.shown.size(), messages) << entry;
+    }
 }
 
 TEST_F(Item3Page, LeavingAndComingBackChangesNothing) {

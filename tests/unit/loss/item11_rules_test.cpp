@@ -100,8 +100,9 @@ TEST(EndRules, StandInTheirOrder) {
     EXPECT_EQ(broken("01022560", "01012561"), "M120");
     EXPECT_EQ(broken("31122559", "31122560"), "M147");
     EXPECT_EQ(broken("01012560", "30122559"), "M148");
-    EXPECT_EQ(broken("01012560", "31122559"), "") << "one day before the start is let through, on purpose";
-    EXPECT_EQ(broken("01012560", "01012560"), "M542");
+    EXPECT_EQ(broken("01012560", "31122559"), "M148");
+    EXPECT_EQ(broken("01012560", "01012560"), "M148") << "a typed end lies behind its start";
+    EXPECT_EQ(broken("01012560", "02012560"), "");
     EXPECT_EQ(broken("01012560", "31122560"), "");
     logEntry(desktop.state(), 12, "01/12/2560", "31/12/2560");
     EXPECT_EQ(broken("01012560", "01122560"), "M537");

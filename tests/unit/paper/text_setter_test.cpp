@@ -15,6 +15,7 @@ namespace {
 
 using ::testing::AllOf;
 using ::testing::HasSubstr;
+using ::testing::Not;
 using ::testing::StartsWith;
 
 struct Ink {
@@ -211,6 +212,16 @@ TEST(TextSetter, WhatWasCutCanStillBeCopied) {
 }
 
 // --- The typeface ---
+
+TEST(TextSetter, ATextThatWrapsAtABlankIsSetInTheTypefaceOfTheFormAlone) {
+    const auto form =
+        templateOf(R"(<rect id="a" x="20" y="20" width="32" height="12" fill="none" data-lines="2"/>)");
+    const TestFolder folder;
+    const auto pdf =
+        folder.write("page.pdf", pdfOf({.form = form, .values = {{"a", "น้ำดื่มไทยรุ่งเรือง ก่อสร้างและโยธา"}}}));
+    const std::string fonts = outputOf("pdffonts " + pdf.string() + " | tail -n +3");
+    EXPECT_THAT(fonts, AllOf(HasSubstr("+Laksaman "), Not(HasSubstr("[none]"))));
+}
 
 TEST(TextSetter, OnlyTheTypefaceOfTheFormWillDo) {
     EXPECT_EQ(failureOf([] { requireFamily(formFamily); }), "");

@@ -77,6 +77,15 @@ TEST_F(UserTest, ABoxTakesNoMoreCharactersThanItsLength) {
     EXPECT_EQ(form->txtName.text(), "กำไรส") << "five letters, vowels and marks, not five bytes";
 }
 
+TEST_F(UserTest, AnAmountThatIsTooLongLosesItsSeparatorsBeforeItIsCut) {
+    user.type(form->txtMoney, "9,999,999,999,999.99");
+    EXPECT_EQ(form->txtMoney.text(), "9999999999999.99");
+    user.type(form->txtMoney, "10,000,000,000,000.00");
+    EXPECT_EQ(form->txtMoney.text(), "10000000000000.0");
+    user.type(form->txtMoney, "1,234.50");
+    EXPECT_EQ(form->txtMoney.text(), "1,234.50") << "what fits stays as it was typed";
+}
+
 TEST_F(UserTest, ABoxMakesTypedTextRegular) {
     user.type(form->txtMoney, "๑,๒๓๔.๕๐|");
     EXPECT_EQ(form->txtMoney.text(), "1,234.50");

@@ -117,6 +117,17 @@ TEST_F(Shelled, ANewReturnPutsTheOldOneAwayAndComesBackToTheStartScreen) {
     EXPECT_TRUE(frame().cmdExit.enabled());
 }
 
+TEST_F(Shelled, TheDamagedLinesOfALoadedReturnAreForgottenWithIt) {
+    host.answers = {Answer::Yes};
+    program.damagedLines = {17};
+    user.click(frame().CmdClear1);
+    EXPECT_TRUE(program.damagedLines.empty());
+    host.answers = {Answer::Yes};
+    program.damagedLines = {17};
+    user.click(frame().cmdPageFirst);
+    EXPECT_TRUE(program.damagedLines.empty());
+}
+
 TEST_F(Shelled, TheAttachmentIsOpenToAHeadquartersAlone) {
     const Form& chooser = program.desk.show("frmLodgeChoose");
     EXPECT_FALSE(chooser.find("cmdItemIHQ")->enabled());

@@ -45,6 +45,19 @@ TEST(StateNames, TakeBothKindsOfBracketsForAnIndex) {
     EXPECT_EQ(valueOf(state, "modIHQ.BoxA[3]"), "5.00");
 }
 
+TEST(StateNames, ReachEachElementThatAListHasNow) {
+    ReturnState state;
+    state.strIsicCode = {"011111", "641910"};
+    state.DataCtrl_P1.BusIndex = {0, 11};
+    EXPECT_EQ(valueOf(state, "strIsicCode(1)"), "641910");
+    EXPECT_EQ(valueOf(state, "DataCtrl_P1.BusIndex(1)"), "11");
+    EXPECT_EQ(valueOf(state, "BusIndex[0]"), "0");
+    EXPECT_TRUE(setValue(state, "strIsicCode(0)", "471110"));
+    EXPECT_EQ(valueOf(state, "strIsicCode"), "471110,641910");
+    EXPECT_FALSE(findStateValue(state, "strIsicCode(2)"));
+    EXPECT_FALSE(findStateValue(state, "RateList(0)"));
+}
+
 TEST(StateNames, FindAMemberWithoutItsRecordWhenItStandsAlone) {
     ReturnState state;
     state.DataCtrl_P1.RateList = {"(1)", "(2.1)"};

@@ -96,5 +96,15 @@ TEST(StatusNumbers, AnEmptyOrUnknownNumberHasNoBox) {
     EXPECT_EQ(boxOfStatus("99"), std::nullopt);
 }
 
+TEST(FilingBoxes, StayAsTheyAreForAFilingTypeThatIsNone) {
+    ReturnState state;
+    state.strFldPage1[filing::normal] = "1";
+    state.strFldPage1[filing::additionalNumber] = "3";
+    state.strFilingType = "0";
+    restoreFilingBoxes(state);
+    EXPECT_EQ(state.strFldPage1[filing::normal], "1");
+    EXPECT_EQ(state.strFldPage1[filing::additionalNumber], "3");
+}
+
 } // namespace
 } // namespace lodge

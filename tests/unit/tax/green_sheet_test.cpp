@@ -33,6 +33,12 @@ TEST(IsAmountTextOfTheSheet, TakesNumbersAndNothing) {
     EXPECT_TRUE(IsAmountText("1,234.50"));
     EXPECT_TRUE(IsAmountText("-5"));
     EXPECT_FALSE(IsAmountText("5x"));
+    EXPECT_FALSE(IsAmountText("(5)")) << "brackets are shown, not typed";
+}
+
+TEST(IsAmountTextOfTheSheet, KnowsTheLargestAmountOfTheForm) {
+    EXPECT_TRUE(IsAmountText("9,999,999,999,999.99"));
+    EXPECT_FALSE(IsAmountText("10,000,000,000,000.00"));
 }
 
 TEST_F(GreenSheet, NeedsARateFirst) {

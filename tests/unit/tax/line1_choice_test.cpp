@@ -180,6 +180,32 @@ TEST_F(Line1, ReceiptsAreTaxedAtFivePercent) {
     EXPECT_EQ(reading("chkTaxAdd6"), "1");
 }
 
+TEST_F(Line1, ReceiptsAreTaxedAtFivePercentAfterAProfitAtAReducedRate) {
+    show();
+    click("chkTaxPay(0)");
+    click("ChkBox_NewAtt(1)");
+    wait(250);
+    click("chkTaxPay(2)");
+    wait(250);
+    EXPECT_EQ(record.Select_2_1, std::int16_t{3}) << "the reduced case has gone behind the receipts";
+    type("txtMoney(0)", "100000");
+    EXPECT_EQ(reading("lblMoney1"), "5,000.00");
+}
+
+TEST_F(Line1, ABankTypesItsLossAndItsReceipts) {
+    bank();
+    show();
+    click("chkTaxPay(1)");
+    type("txtMoney(0)", "1000");
+    EXPECT_EQ(reading("txtMoney(0)"), "(1,000.00)");
+    EXPECT_EQ(reading("lblMoney1"), "0.00");
+    click("chkTaxPay(2)");
+    wait(250);
+    type("txtMoney(0)", "100000");
+    EXPECT_EQ(reading("lblMoney1"), "5,000.00");
+    EXPECT_EQ(reading("lblMoney2(3)"), "5,000.00");
+}
+
 TEST_F(Line1, TheChoicesExcludeEachOtherAndTheNewTickStands) {
     show();
     click("chkTaxPay(0)");
