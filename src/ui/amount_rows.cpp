@@ -3,10 +3,10 @@
 #include "ui/amount_page.h"
 #include "ui/dress.h"
 #include "ui/link_label.h"
+#include "ui/text_label.h"
 #include "ui/tick_box.h"
 #include "ui/tie_tag.h"
 #include "ui/type.h"
-#include "ui/wrap_label.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -56,7 +56,7 @@ void tint(QWidget* focused, bool inHand) {
 int amountColumnWidth() { return widthOf("heading", "(9,999,999,999,999.99)") + 21; }
 
 QLabel* makeText(const QString& text, const char* type) {
-    auto* label = new WrapLabel(text);
+    auto* label = new TextLabel(text);
     label->setTextFormat(Qt::PlainText);
     label->setProperty("type", QByteArray(type));
     return label;

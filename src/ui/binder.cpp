@@ -221,11 +221,6 @@ void Binder::placeFrame(QMainWindow& frame) {
 }
 
 void Binder::placeProblems(QMainWindow& frame) {
-    problemDock_ = new ProblemDock(*problems_, &frame);
-    frame.addDockWidget(Qt::BottomDockWidgetArea, problemDock_);
-    problemDock_->hide();
-    connect(problemDock_, &ProblemDock::chosen, this, &Binder::goToProblem);
-    connect(problemDock_, &ProblemDock::left, this, &Binder::settleSoon);
     auto* pages = new PageList(program_, *problems_, &frame);
     frame.addDockWidget(Qt::LeftDockWidgetArea, pages);
     connect(pages, &PageList::chosen, this, [this](std::int16_t page) { goToPage(page, {}); });
@@ -238,8 +233,20 @@ void Binder::placeProblems(QMainWindow& frame) {
         connect(new QShortcut(key, &frame), &QShortcut::activated, this, what);
     };
     bind(QKeySequence(Qt::Key_F7), [this] { toggleProblems(); });
-    bind(QKeySequence(Qt::Key_F8), [this] { problemDock_->step(1); });
-    bind(QKeySequence(Qt::SHIFT | Qt::Key_F8), [this] { problemDock_->step(-1); });
+    bind(QKeySequence(Qt::Key_F8), [this] { problemDock().step(1); });
+    bind(QKeySequence(Qt::SHIFT | Qt::Key_F8), [this] { problemDock().step(-1); });
+}
+
+ProblemDock& Binder::problemDock() {
+    if (problemDock_ == nullptr) {
+        problemDock_ = new ProblemDock(*problems_, frame_);
+        problemDock_->hide();
+        frame_->addDockWidget(Qt::BottomDockWidgetArea, problemDock_);
+        look_.dress(*problemDock_);
+        connect(problemDock_, &ProblemDock::chosen, this, &Binder::goToProblem);
+        connect(problemDock_, &ProblemDock::left, this, &Binder::settleSoon);
+    }
+    return *problemDock_;
 }
 
 /// The list comes up with the focus in it, and goes when it has the focus already.
@@ -247,15 +254,16 @@ void Binder::toggleProblems() {
     if (!problems_->hasReturn() || waits_ > 0) {
         return;
     }
-    if (problemDock_->isVisible() && (problemDock_->hasFocusInside() || problems_->problems().empty())) {
-        problemDock_->hide();
+    ProblemDock& dock = problemDock();
+    if (dock.isVisible() && (dock.hasFocusInside() || problems_->problems().empty())) {
+        dock.hide();
         settleSoon();
         return;
     }
     // A field is left before its page is: its check may keep the person there.
     act([](User& user) { user.leave(); });
     if (program_.desk.focus() == nullptr) {
-        problemDock_->enter();
+        dock.enter();
     }
 }
 

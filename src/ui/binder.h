@@ -42,6 +42,8 @@ class Binder : public QObject, public DeskObserver, public UserDoor, public Wait
     [[nodiscard]] FormView* viewOf(std::string_view form) const;
     [[nodiscard]] QMainWindow* frame() const { return frame_; }
 
+    /// The list of what is in the way, made the first time that it is asked for. Only with a frame.
+    ProblemDock& problemDock();
     /// Presses a button that the person can reach; false for one that is not open.
     bool pressOpen(std::string_view form, const std::string& button);
     /// Where the focus belongs when it comes back to a form, nullptr where nothing takes it.

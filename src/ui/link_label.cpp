@@ -4,7 +4,7 @@
 
 namespace lodge {
 
-LinkLabel::LinkLabel(QWidget* parent) : QLabel(parent) {
+LinkLabel::LinkLabel(QWidget* parent) : TextLabel(parent) {
     setTextFormat(Qt::PlainText);
     setProperty("role", QByteArray("link"));
     setProperty("type", QByteArray("label"));
@@ -23,7 +23,7 @@ bool LinkLabel::event(QEvent* event) {
         underlined.setUnderline(true);
         setFont(underlined);
     }
-    return QLabel::event(event);
+    return TextLabel::event(event);
 }
 
 void LinkLabel::mousePressEvent(QMouseEvent* event) { event->setAccepted(event->button() == Qt::LeftButton); }

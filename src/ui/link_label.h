@@ -1,11 +1,11 @@
 // A text of a page that leads to another item: where the figure beside it comes from.
 #pragma once
 
-#include <QLabel>
+#include "ui/text_label.h"
 
 namespace lodge {
 
-class LinkLabel : public QLabel {
+class LinkLabel : public TextLabel {
     Q_OBJECT
 
     /// The button of the chooser that opens the item.

@@ -3,6 +3,7 @@
 #include "shell/page_table.h"
 #include "ui/item_marks.h"
 #include "ui/look.h"
+#include "ui/text_label.h"
 #include "ui/theme.h"
 #include "ui/type.h"
 #include "values/money.h"
@@ -10,7 +11,6 @@
 #include <QAbstractListModel>
 #include <QEvent>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QListView>
 #include <QMainWindow>
 #include <QPainter>
@@ -168,9 +168,9 @@ QWidget* PageList::makeWatchBar() {
     rows->setContentsMargins(padding, 6, padding, 8);
     rows->setSpacing(0);
     for (std::size_t i = 0; i < figures_.size(); ++i) {
-        captions_.at(i) = new QLabel;
+        captions_.at(i) = new TextLabel;
         captions_.at(i)->setProperty("type", QByteArray("label"));
-        figures_.at(i) = new QLabel;
+        figures_.at(i) = new TextLabel;
         figures_.at(i)->setProperty("type", QByteArray("heading"));
         figures_.at(i)->setProperty("role", QByteArray("watched"));
         figures_.at(i)->setAlignment(Qt::AlignRight | Qt::AlignVCenter);

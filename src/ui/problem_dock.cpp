@@ -3,6 +3,7 @@
 #include "ui/dress.h"
 #include "ui/item_marks.h"
 #include "ui/look.h"
+#include "ui/text_label.h"
 #include "ui/type.h"
 #include "values/money.h"
 
@@ -11,7 +12,6 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QPainter>
 #include <QStackedWidget>
 #include <QStyledItemDelegate>
@@ -81,10 +81,10 @@ class RowDelegate : public QStyledItemDelegate {
 
 /// A key on a little cap, with what it does.
 void addKey(QHBoxLayout& row, const QString& key, const QString& meaning) {
-    auto* cap = new QLabel(key);
+    auto* cap = new TextLabel(key);
     cap->setProperty("type", QByteArray("tag"));
     cap->setProperty("role", QByteArray("keycap"));
-    auto* does = new QLabel(meaning);
+    auto* does = new TextLabel(meaning);
     does->setProperty("type", QByteArray("tag"));
     row.addWidget(cap, 0, Qt::AlignVCenter);
     row.addWidget(does, 0, Qt::AlignVCenter);
@@ -162,8 +162,8 @@ class ProblemModel : public QAbstractTableModel {
 };
 
 ProblemDock::ProblemDock(const ProblemWatch& watch, QWidget* parent)
-    : QDockWidget(parent), watch_(watch), model_(nullptr), list_(new QTreeView), count_(new QLabel),
-      nothing_(new QLabel(QStringLiteral("ไม่มีรายการติดขัด จัดเก็บได้"))), body_(new QStackedWidget) {
+    : QDockWidget(parent), watch_(watch), model_(nullptr), list_(new QTreeView), count_(new TextLabel),
+      nothing_(new TextLabel(QStringLiteral("ไม่มีรายการติดขัด จัดเก็บได้"))), body_(new QStackedWidget) {
     setObjectName(QStringLiteral("decorProblems"));
     setWindowTitle(QStringLiteral("รายการที่ยังติดขัด"));
     setAccessibleName(windowTitle());
@@ -185,7 +185,7 @@ QWidget* ProblemDock::makeTitle() {
     auto* row = new QHBoxLayout(title);
     row->setContentsMargins(12, 0, 12, 0);
     row->setSpacing(6);
-    auto* name = new QLabel(windowTitle());
+    auto* name = new TextLabel(windowTitle());
     name->setProperty("type", QByteArray("advice"));
     row->addWidget(name);
     row->addSpacing(6);

@@ -1,8 +1,9 @@
 #include "ui/recovery_band.h"
 
+#include "ui/text_label.h"
+
 #include <QDateTime>
 #include <QGridLayout>
-#include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
 
@@ -39,7 +40,7 @@ QString linesOf(const ReturnNote& note, const QString& put) {
 }
 
 QLabel* addLabel(QWidget& band, const char* type) {
-    auto* label = new QLabel(&band);
+    auto* label = new TextLabel(&band);
     label->setProperty("type", QByteArray(type));
     label->setTextFormat(Qt::PlainText);
     return label;
@@ -67,7 +68,7 @@ RecoveryBand::RecoveryBand(QWidget* parent)
           QStringLiteral("เปิดไฟล์ที่โปรแกรมจัดเก็บอัตโนมัติล่าสุด"), Qt::CTRL | Qt::Key_F11)) {
     setProperty("role", QByteArray("offer"));
     rule_->setProperty("role", QByteArray("rule"));
-    auto* sign = new QLabel(this);
+    auto* sign = new TextLabel(this);
     sign->setProperty("drawing", QByteArray("temp"));
     sign->setProperty("role", QByteArray("warn"));
     auto* heading = addLabel(*this, "advice");

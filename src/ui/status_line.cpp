@@ -2,11 +2,11 @@
 
 #include "file/store_load.h"
 #include "shell/page_table.h"
+#include "ui/text_label.h"
 #include "ui/type.h"
 
 #include <QEvent>
 #include <QFileInfo>
-#include <QLabel>
 #include <QLayout>
 #include <QStatusBar>
 
@@ -21,7 +21,7 @@ constexpr std::size_t idField = 45;
 constexpr int roomOfOthers = 190;
 
 QLabel* makeLabel(const char* name) {
-    auto* label = new QLabel;
+    auto* label = new TextLabel;
     label->setObjectName(QLatin1String(name));
     label->setTextFormat(Qt::PlainText);
     label->setProperty("type", QByteArray("label"));

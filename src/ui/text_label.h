@@ -1,5 +1,5 @@
-// A label of several lines that remembers how high it gets in a width. Layouts ask for the same few widths
-// over and over, and to find where a Thai line may break is dear.
+// A label that remembers how large its text is. The toolkit's label lays its text out anew for each of its
+// hints and for every width that a layout tries, and to find where a Thai line may break is dear.
 #pragma once
 
 #include <QFont>
@@ -9,16 +9,30 @@
 
 namespace lodge {
 
-class WrapLabel : public QLabel {
+class TextLabel : public QLabel {
+    Q_OBJECT
+
   public:
     using QLabel::QLabel;
 
+    /// The sizes of the toolkit's label, for plain text found with as few layouts as can be.
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
     [[nodiscard]] int heightForWidth(int width) const override;
 
   private:
+    [[nodiscard]] bool isPlain() const;
+    /// What margins, frame and indent take.
+    [[nodiscard]] QSize around() const;
+    [[nodiscard]] QSize textIn(int width) const;
+    [[nodiscard]] QSize preferred() const;
+
+    // What the sizes belong to, and the sizes by the width that the text has.
     mutable QString text_;
     mutable QFont font_;
-    mutable QHash<int, int> heights_;
+    mutable int flags_ = -1;
+    mutable QSize line_; // nothing broken but by its own breaks
+    mutable QHash<int, QSize> sizes_;
 };
 
 } // namespace lodge

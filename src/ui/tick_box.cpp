@@ -34,17 +34,13 @@ int captionLeft(const QWidget& widget) {
            + widget.style()->pixelMetric(QStyle::PM_CheckBoxLabelSpacing, nullptr, &widget);
 }
 
-int captionWidth(const QAbstractButton& button) {
-    return button.fontMetrics().size(Qt::TextShowMnemonic, drawnCaption(button)).width();
+QSize wholeSize(const QAbstractButton& button, const CaptionSizes& sizes) {
+    return {captionLeft(button) + sizes.width(button), zoomed(rowHeight)};
 }
 
-QSize wholeSize(const QAbstractButton& button) {
-    return {captionLeft(button) + captionWidth(button) + 1, zoomed(rowHeight)};
-}
-
-QSize leastSize(const QAbstractButton& button) {
-    return {captionLeft(button) + std::min(captionWidth(button) + 1, zoomed(leastCaptionWidth)),
-        zoomed(rowHeight)};
+QSize leastSize(const QAbstractButton& button, const CaptionSizes& sizes) {
+    return {
+        captionLeft(button) + std::min(sizes.width(button), zoomed(leastCaptionWidth)), zoomed(rowHeight)};
 }
 
 void letWrap(QWidget& widget) {
@@ -66,15 +62,19 @@ void paint(QAbstractButton& button, const QStyleOptionButton& option, QStyle::Pr
 
 } // namespace
 
-int CaptionHeights::of(const QAbstractButton& button, int width) const {
-    if (text_ != button.text() || font_ != button.font() || heights_.isEmpty()) {
+int CaptionSizes::width(const QAbstractButton& button) const {
+    if (text_ != button.text() || font_ != button.font() || width_ < 0) {
         text_ = button.text();
         font_ = button.font();
         heights_.clear();
-        wholeWidth_ = captionWidth(button) + 1;
+        width_ = button.fontMetrics().size(Qt::TextShowMnemonic, drawnCaption(button)).width() + 1;
     }
+    return width_;
+}
+
+int CaptionSizes::heightIn(int width, const QAbstractButton& button) const {
     // In any width that it fits into, it is as high as in its own.
-    const int room = std::clamp(width - captionLeft(button), 1, std::max(1, wholeWidth_));
+    const int room = std::clamp(width - captionLeft(button), 1, std::max(1, this->width(button)));
     const auto known = heights_.constFind(room);
     if (known != heights_.constEnd()) {
         return *known;
@@ -96,9 +96,9 @@ QRect indicatorRect(const QWidget& widget) {
 }
 
 TickBox::TickBox(QWidget* parent) : QCheckBox(parent) { letWrap(*this); }
-QSize TickBox::sizeHint() const { return wholeSize(*this); }
-QSize TickBox::minimumSizeHint() const { return leastSize(*this); }
-int TickBox::heightForWidth(int width) const { return heights_.of(*this, width); }
+QSize TickBox::sizeHint() const { return wholeSize(*this, sizes_); }
+QSize TickBox::minimumSizeHint() const { return leastSize(*this, sizes_); }
+int TickBox::heightForWidth(int width) const { return sizes_.heightIn(width, *this); }
 bool TickBox::hitButton(const QPoint& place) const { return rect().contains(place); }
 
 void TickBox::paintEvent(QPaintEvent* /*event*/) {
@@ -111,9 +111,9 @@ ChoiceBox::ChoiceBox(QWidget* parent) : QRadioButton(parent) {
     letWrap(*this);
     setAutoExclusive(false); // the rules decide which choices exclude one another
 }
-QSize ChoiceBox::sizeHint() const { return wholeSize(*this); }
-QSize ChoiceBox::minimumSizeHint() const { return leastSize(*this); }
-int ChoiceBox::heightForWidth(int width) const { return heights_.of(*this, width); }
+QSize ChoiceBox::sizeHint() const { return wholeSize(*this, sizes_); }
+QSize ChoiceBox::minimumSizeHint() const { return leastSize(*this, sizes_); }
+int ChoiceBox::heightForWidth(int width) const { return sizes_.heightIn(width, *this); }
 bool ChoiceBox::hitButton(const QPoint& place) const { return rect().contains(place); }
 
 void ChoiceBox::paintEvent(QPaintEvent* /*event*/) {

@@ -9,16 +9,19 @@
 
 namespace lodge {
 
-/// How high a tick or choice gets in a width. Layouts ask for the same few widths over and over, and to break
-/// a Thai line is dear: what was asked before is remembered, as long as caption and font stay.
-class CaptionHeights {
+/// How large the caption of a tick or choice is. Layouts ask for the same few widths over and over, and to
+/// break a Thai line is dear: what was asked before is remembered, as long as caption and font stay.
+class CaptionSizes {
   public:
-    [[nodiscard]] int of(const QAbstractButton& button, int width) const;
+    /// Unbroken.
+    [[nodiscard]] int width(const QAbstractButton& button) const;
+    /// How high the whole tick gets in a width.
+    [[nodiscard]] int heightIn(int width, const QAbstractButton& button) const;
 
   private:
     mutable QString text_;
     mutable QFont font_;
-    mutable int wholeWidth_ = 0;
+    mutable int width_ = -1;
     mutable QHash<int, int> heights_; // by the width left for the caption
 };
 
@@ -38,7 +41,7 @@ class TickBox : public QCheckBox {
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    CaptionHeights heights_;
+    CaptionSizes sizes_;
 };
 
 class ChoiceBox : public QRadioButton {
@@ -57,7 +60,7 @@ class ChoiceBox : public QRadioButton {
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    CaptionHeights heights_;
+    CaptionSizes sizes_;
 };
 
 /// Whether a widget has an indicator beside its caption, and whether that is round.

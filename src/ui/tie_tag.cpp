@@ -28,7 +28,7 @@ std::string figureOf(const QWidget& side) {
 
 } // namespace
 
-TieTag::TieTag(QWidget* parent) : QLabel(parent) {
+TieTag::TieTag(QWidget* parent) : TextLabel(parent) {
     setTextFormat(Qt::PlainText);
     setProperty("type", QByteArray("tag"));
     setAlignment(Qt::AlignCenter);
@@ -37,7 +37,7 @@ TieTag::TieTag(QWidget* parent) : QLabel(parent) {
 
 QSize TieTag::sizeHint() const {
     // An empty tag keeps its height, so that nothing moves when it speaks.
-    return {text().isEmpty() ? 0 : QLabel::sizeHint().width(), QLabel::sizeHint().height()};
+    return {text().isEmpty() ? 0 : TextLabel::sizeHint().width(), TextLabel::sizeHint().height()};
 }
 
 void TieTag::compare(QWidget& here, QWidget& there) {
@@ -81,7 +81,7 @@ bool TieTag::event(QEvent* event) {
         }
         compare(*here, *there);
     }
-    return QLabel::event(event);
+    return TextLabel::event(event);
 }
 
 bool TieTag::eventFilter(QObject* /*watched*/, QEvent* event) {
@@ -119,14 +119,14 @@ void TieTag::show(const QString& text, const char* role) {
     setAccessibleDescription(text);
     setWorn(*this, "role", role);
     setText(text);
-    if (QLabel::sizeHint().width() > maximumWidth()) {
+    if (TextLabel::sizeHint().width() > maximumWidth()) {
         setText(text.section(QLatin1Char(' '), 0, 0)); // the amount is in the tool tip
     }
     updateGeometry();
 }
 
 void TieTag::paintEvent(QPaintEvent* event) {
-    QLabel::paintEvent(event);
+    TextLabel::paintEvent(event);
     if (text().isEmpty()) {
         return;
     }

@@ -2,7 +2,8 @@
 // an icon, never the colour alone.
 #pragma once
 
-#include <QLabel>
+#include "ui/text_label.h"
+
 #include <QList>
 #include <QPointer>
 
@@ -12,7 +13,7 @@
 
 namespace lodge {
 
-class TieTag : public QLabel {
+class TieTag : public TextLabel {
     Q_OBJECT
     /// The names of two widgets of the page that show the figures, parted by a blank.
     Q_PROPERTY(QString sides READ sides WRITE setSides)

@@ -44,9 +44,10 @@ QStringList missingFontPackages() {
         families << QString::fromLatin1(type.family);
     }
     families.removeDuplicates();
+    const QStringList present = QFontDatabase::families(); // asking for one by one has each of them resolved
     QStringList missing;
     for (const QString& family : families) {
-        if (!QFontDatabase::hasFamily(family)) { // which, unlike QFontInfo, loads none of them
+        if (!present.contains(family)) {
             missing << QStringLiteral("fonts-tlwg-%1-ttf").arg(family.toLower());
         }
     }

@@ -26,7 +26,7 @@ class ProblemsTest : public QObject {
     TestApplication application_;
     std::unique_ptr<Desktop> desktop_;
 
-    [[nodiscard]] ProblemDock* dock() const { return desktop_->binder.frame()->findChild<ProblemDock*>(); }
+    [[nodiscard]] ProblemDock* dock() const { return &desktop_->binder.problemDock(); }
     [[nodiscard]] ProblemButton* button() const {
         return desktop_->binder.frame()->findChild<ProblemButton*>();
     }

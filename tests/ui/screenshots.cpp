@@ -23,6 +23,7 @@
 #include <QPainter>
 #include <QPixmap>
 #include <QTest>
+#include <QTreeView>
 
 #include <array>
 #include <functional>
@@ -353,8 +354,12 @@ Form& openAttachment(Program& program, User& user) {
 void showProblems(bool entered) {
     settle();
     for (QWidget* window : QApplication::topLevelWidgets()) {
-        if (auto* dock = window->findChild<ProblemDock*>()) {
-            entered ? dock->enter() : dock->show();
+        if (auto* button = window->findChild<ProblemButton*>()) {
+            button->click();
+            if (!entered) {
+                QWidget* list = window->findChild<ProblemDock*>()->list();
+                QTest::keyClick(list, Qt::Key_Escape);
+            }
         }
     }
 }
