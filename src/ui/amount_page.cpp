@@ -7,6 +7,7 @@
 #include "pages/schedules/schedule.h"
 #include "ui/amount_captions.h"
 #include "ui/amount_rows.h"
+#include "ui/follow_frame.h"
 #include "ui/layouts.h"
 #include "ui/sheet_title.h"
 #include "ui/tie_tag.h"
@@ -90,6 +91,7 @@ struct Sheet {
         frame = static_cast<QVBoxLayout*>(root->findChild<QFrame*>(QStringLiteral("decorSheet"))->layout());
         body = static_cast<QVBoxLayout*>(root->findChild<QWidget*>(QStringLiteral("decorBody"))->layout());
         tintRowInHand(*root);
+        new SourceFold(*root); // which owns it
     }
 
     void addHead(QWidget* head) const { frame->insertWidget(1, head); }
@@ -197,19 +199,24 @@ constexpr std::array<TickedLine, 2> tickedLines = {{
     {9, "chkProfit9", "chkLose9", "ตามบัญชีกำไรขาดทุน"},
 }};
 
+/// The form bears two captions for line 18: its figure takes what either of them names.
+constexpr int twiceCaptioned = 18;
+constexpr std::string_view furtherCaption = "18. บวก รายจ่ายส่วนที่เกินร้อยละ 5 ของกำไรสุทธิ";
+
 /// The caption without the number in front of it.
 QString captionOf(const Item3Line& line) {
-    return fromText(line.text).mid(numberText(line.number).size()).trimmed();
+    const auto bare = [&](std::string_view text) {
+        return fromText(text).mid(numberText(line.number).size()).trimmed();
+    };
+    return line.number == twiceCaptioned ? bare(line.text) + QLatin1Char('\n') + bare(furtherCaption)
+                                         : bare(line.text);
 }
 
 void addTicks(AmountRow& row, int number) {
     const auto ticked = std::ranges::find(tickedLines, number, &TickedLine::number);
     if (ticked != tickedLines.end()) {
-        row.addTick(QLatin1String(ticked->profit));
-        row.addTick(QLatin1String(ticked->loss));
-        if (ticked->remark[0] != '\0') {
-            row.addRemark(QString::fromUtf8(ticked->remark));
-        }
+        row.addTicks(
+            {QLatin1String(ticked->profit), QLatin1String(ticked->loss)}, QString::fromUtf8(ticked->remark));
     }
 }
 
@@ -256,22 +263,46 @@ AmountRow* makeComputedRow(const Item3Line& line) {
     return row;
 }
 
-/// Line 22 stays on screen below the rows, with the box of a company that has figures in both columns.
+/// The box in which a company with figures in both columns states line 22 itself.
+constexpr const char* statedBox = "txtBOI";
+
+/// It stands on screen only while its box does.
+QWidget* makeStatedResult() {
+    const QString task = QStringLiteral("ข้อ 22 กำไรสุทธิที่ต้องเสียภาษี หรือขาดทุนสุทธิ ตามหลักเกณฑ์ ...");
+    auto* sheet = new FollowFrame;
+    sheet->setShownWith(QLatin1String(statedBox));
+    sheet->setProperty("role", QByteArray("stated"));
+    auto* rows = new QVBoxLayout(sheet);
+    rows->setContentsMargins(0, 4, 0, 0);
+    rows->setSpacing(0);
+
+    auto* texts = new QHBoxLayout;
+    texts->setContentsMargins(20, 0, 4, 0);
+    texts->setSpacing(16);
+    QLabel* heading = makeText(QStringLiteral("กระดาษทำการสำหรับ บริษัทที่ประกอบทั้งกิจการที่ได้รับยกเว้น..."), "advice");
+    heading->setProperty("tone", QByteArray("ok"));
+    QLabel* asked = makeText(QStringLiteral("กรุณาบันทึก ") + task, "label");
+    asked->setWordWrap(true);
+    texts->addWidget(heading);
+    texts->addWidget(asked, 1);
+    rows->addLayout(texts);
+
+    auto* row = new AmountRow(AmountRow::Kind::Typed, QString(), QString());
+    row->endCaption();
+    row->addTicks({QStringLiteral("chkProfitX"), QStringLiteral("chkLoseX")});
+    row->addBox(QLatin1String(statedBox), saidName(3, {}, Column::Total, task));
+    row->addSourceGap();
+    rows->addWidget(row);
+    return sheet;
+}
+
+/// Line 22 stays on screen below the rows.
 void addItem3Foot(const Sheet& sheet) {
     QVBoxLayout* foot = sheet.addFoot();
-    const QString stated = QStringLiteral("กรณีมีทั้งสองช่อง ระบุตามหลักเกณฑ์ที่อธิบดีกำหนด");
-    auto* sideBox = new AmountRow(AmountRow::Kind::Typed, QString(), stated);
-    sideBox->endCaption();
-    sideBox->addTick(QStringLiteral("chkProfitX"));
-    sideBox->addTick(QStringLiteral("chkLoseX"));
-    QLineEdit* amount = sideBox->addBox(QStringLiteral("txtBOI"), saidName(3, {}, Column::Total, stated));
-    sideBox->addSourceGap();
-    foot->addWidget(sideBox);
-    sideBox->follow(*amount); // only in its place: by itself it would come up as a window
+    foot->addWidget(makeStatedResult());
 
     auto* line22 = new AmountRow(AmountRow::Kind::Computed, numberText(22), QString());
-    line22->addTick(QStringLiteral("chkProfit20"));
-    line22->addTick(QStringLiteral("chkLose20"));
+    line22->addTicks({QStringLiteral("chkProfit20"), QStringLiteral("chkLose20")});
     line22->endCaption();
     line22->addFigure(
         QStringLiteral("lblTotMoney33"), saidName(3, numberText(22), Column::Total, fromText(itemName(3))));
@@ -312,8 +343,7 @@ AmountRow* makeBalanceRow(const BalanceLine& line) {
     const QString said = QStringLiteral("รายการที่ 12 %1 %2").arg(fromText(line.number), caption);
     if (name == QLatin1String(resultBox)) {
         // Before the ticks decide, the amount is neither a profit nor a loss.
-        row->addTick(QStringLiteral("chkProfit"));
-        row->addTick(QStringLiteral("chkLose"));
+        row->addTicks({QStringLiteral("chkProfit"), QStringLiteral("chkLose")});
     }
     row->endCaption();
     if (sum) {

@@ -3,18 +3,23 @@
 #include "ui/amount_page.h"
 #include "ui/dress.h"
 #include "ui/link_label.h"
+#include "ui/look.h"
 #include "ui/text_label.h"
 #include "ui/tick_box.h"
 #include "ui/tie_tag.h"
+#include "ui/two_columns.h"
 #include "ui/type.h"
 
 #include <QApplication>
 #include <QEvent>
 #include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
 #include <QStyle>
 #include <QVBoxLayout>
 
 #include <array>
+#include <utility>
 
 namespace lodge {
 
@@ -22,10 +27,14 @@ namespace {
 
 constexpr int rowHeight = 30;
 /// Where the figures come from, and how far they do not agree with it.
-constexpr int sourceWidth = 256;
+constexpr int sourceWidth = 240;
+constexpr int narrowSourceWidth = 34;
 constexpr int tieWidth = 140;
+constexpr int goSize = 16;
 constexpr int columnGap = 4;
-constexpr int sheetPadding = 16;
+constexpr int tickGap = 8;
+/// The numbers stand at the right of their column, so little is enough at its left.
+constexpr int rowPadding = 4;
 constexpr int scrollBarWidth = 12;
 constexpr int headHeight = 48;
 /// Between the figure and the edge of its box: border, padding and what the toolkit adds.
@@ -36,7 +45,7 @@ int widthOf(const char* type, const char* text) {
 }
 
 /// The widest number of a line, "75.13", and the gap behind it.
-int numberWidth() { return widthOf("heading", "75.13") + 8; }
+int numberWidth() { return widthOf("heading", "75.13") + columnGap; }
 
 AmountRow* rowAround(QWidget* widget) {
     while (widget != nullptr && qobject_cast<AmountRow*>(widget) == nullptr) {
@@ -71,19 +80,110 @@ QString controlWidgetName(std::string_view name, int index) {
     return index < 0 ? plain : QStringLiteral("%1_%2").arg(plain).arg(index);
 }
 
+SourceCell::SourceCell(QLabel* heading) : text_(heading) {
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+    if (heading != nullptr) {
+        auto* room = new QHBoxLayout(this);
+        room->setContentsMargins(2 * columnGap, 0, 0, 0);
+        room->addWidget(heading);
+    }
+}
+
+SourceCell::SourceCell(const QString& text, const QString& chooserButton)
+    : text_(new LinkLabel(text, chooserButton)), tie_(new TieTag) {
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+    auto* both = new QHBoxLayout(this);
+    both->setContentsMargins(2 * columnGap, 0, 0, 0);
+    both->setSpacing(columnGap);
+    text_->setWordWrap(true);
+    both->addWidget(text_, 1);
+    tie_->setMaximumWidth(tieWidth);
+    both->addWidget(tie_);
+}
+
+void SourceCell::setNarrow(bool narrow) {
+    narrow_ = narrow;
+    if (text_ != nullptr) {
+        text_->setVisible(!narrow);
+    }
+    if (tie_ != nullptr) {
+        tie_->setMarkOnly(narrow);
+        setToolTip(narrow ? text_->text() : QString());
+        setCursor(narrow ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    }
+    updateGeometry();
+    update();
+}
+
+int SourceCell::narrowerBy() { return zoomed(sourceWidth) - zoomed(narrowSourceWidth); }
+
+QSize SourceCell::sizeHint() const {
+    const int height = layout() == nullptr ? 0 : layout()->sizeHint().height();
+    return {zoomed(narrow_ ? narrowSourceWidth : sourceWidth), height};
+}
+
+void SourceCell::paintEvent(QPaintEvent* /*event*/) {
+    if (narrow_ && tie_ != nullptr && tie_->text().isEmpty()) {
+        // Nothing to say of the tie, but the way to the item is there all the same.
+        const int side = zoomed(goSize);
+        const QColor ink = palette().color(ink::link);
+        QPainter painter(this);
+        iconOf(QStringLiteral("go"), ink, ink)
+            .paint(&painter, QRect((width() - side) / 2, (height() - side) / 2, side, side));
+    }
+}
+
+void SourceCell::mousePressEvent(QMouseEvent* event) {
+    event->setAccepted(narrow_ && tie_ != nullptr && event->button() == Qt::LeftButton);
+}
+
+void SourceCell::mouseReleaseEvent(QMouseEvent* event) {
+    if (narrow_ && tie_ != nullptr && rect().contains(event->position().toPoint())) {
+        emit static_cast<LinkLabel*>(text_)->followed();
+    }
+}
+
+SourceFold::SourceFold(QWidget& page) : QObject(&page), page_(page) { page.installEventFilter(this); }
+
+void SourceFold::decide() {
+    if (cells_.isEmpty()) {
+        cells_ = page_.findChildren<SourceCell*>();
+    }
+    if (cells_.isEmpty() || page_.parentWidget() == nullptr) {
+        return;
+    }
+    const int least = page_.minimumSizeHint().width() + (narrow_ ? SourceCell::narrowerBy() : 0);
+    const bool narrow = least > page_.parentWidget()->width();
+    if (narrow != narrow_) {
+        narrow_ = narrow;
+        for (SourceCell* cell : std::as_const(cells_)) {
+            cell->setNarrow(narrow);
+        }
+    }
+}
+
+bool SourceFold::eventFilter(QObject* watched, QEvent* event) {
+    const bool isPage = watched == &page_;
+    if (isPage && event->type() == QEvent::ParentChange && page_.parentWidget() != nullptr) {
+        page_.parentWidget()->installEventFilter(this); // what the page is seen through
+    } else if (event->type() == (isPage ? QEvent::LayoutRequest : QEvent::Resize)) {
+        decide();
+    }
+    return false;
+}
+
 AmountRow::AmountRow(Kind kind, const QString& number, const QString& caption)
     : kind_(kind), line_(new QHBoxLayout(this)), captioned_(!caption.isEmpty()),
       said_(number.isEmpty() ? caption : QStringLiteral("ข้อ %1").arg(number)) {
     setProperty("role", kind == Kind::Computed ? QByteArray("sum") : QByteArray("line"));
     setMinimumHeight(rowHeight);
-    line_->setContentsMargins(sheetPadding, 0, columnGap, 0);
+    line_->setContentsMargins(rowPadding, 0, columnGap, 0);
     line_->setSpacing(columnGap);
     QLabel* numberLabel = makeText(number, "heading");
     numberLabel->setFixedWidth(numberWidth());
     numberLabel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     numberLabel->setIndent(columnGap);
     line_->addWidget(numberLabel);
-    line_->addSpacing(columnGap);
     if (captioned_) {
         QLabel* captionLabel = makeText(caption, kind == Kind::Typed ? "field" : "heading");
         captionLabel->setProperty("tone", kind == Kind::Computed ? QByteArray("strong") : QByteArray());
@@ -92,19 +192,30 @@ AmountRow::AmountRow(Kind kind, const QString& number, const QString& caption)
     }
 }
 
-QAbstractButton* AmountRow::addTick(const QString& name) {
-    auto* tick = new TickBox;
-    tick->setObjectName(name);
-    tick->setProperty("said", said_);
-    line_->addWidget(tick, 0, Qt::AlignVCenter);
-    line_->addSpacing(2 * columnGap);
-    return tick;
-}
-
-void AmountRow::addRemark(const QString& text) {
-    QLabel* remark = makeText(text, "field");
-    remark->setWordWrap(true);
-    line_->addWidget(remark, 1);
+void AmountRow::addTicks(const QStringList& names, const QString& remark) {
+    auto* ticks = new QWidget;
+    auto* side = new QHBoxLayout(ticks);
+    side->setContentsMargins(0, 0, 0, 0);
+    side->setSpacing(tickGap);
+    for (const QString& name : names) {
+        auto* tick = new TickBox;
+        tick->setObjectName(name);
+        tick->setProperty("said", said_);
+        side->addWidget(tick, 0, Qt::AlignVCenter);
+    }
+    if (remark.isEmpty()) {
+        line_->addWidget(ticks, 0, Qt::AlignVCenter);
+        line_->addSpacing(2 * columnGap);
+        return;
+    }
+    side->addStretch(1);
+    auto* both = new TwoColumns;
+    auto* parts = new QBoxLayout(QBoxLayout::LeftToRight, both);
+    parts->setContentsMargins(0, 0, 0, 0);
+    parts->setSpacing(tickGap);
+    parts->addWidget(ticks);
+    parts->addWidget(makeText(remark, "field"), 1);
+    line_->addWidget(both, 1);
     captioned_ = true;
 }
 
@@ -138,31 +249,12 @@ QLabel* AmountRow::addFigure(const QString& name, const QString& said) {
 }
 
 TieTag* AmountRow::addSource(const QString& text, const QString& chooserButton) {
-    auto* source = new QWidget;
-    source->setFixedWidth(sourceWidth);
-    auto* both = new QHBoxLayout(source);
-    both->setContentsMargins(2 * columnGap, 0, 0, 0);
-    both->setSpacing(columnGap);
-    auto* link = new LinkLabel(text, chooserButton);
-    link->setWordWrap(true);
-    both->addWidget(link, 1);
-    auto* tie = new TieTag;
-    tie->setMaximumWidth(tieWidth);
-    both->addWidget(tie);
+    auto* source = new SourceCell(text, chooserButton);
     line_->addWidget(source);
-    return tie;
+    return source->tie();
 }
 
-void AmountRow::addSourceGap() {
-    auto* gap = new QWidget; // as wide as a source at every zoom
-    gap->setFixedWidth(sourceWidth);
-    line_->addWidget(gap);
-}
-
-void AmountRow::follow(QWidget& part) {
-    setVisible(!part.isHidden());
-    part.installEventFilter(this);
-}
+void AmountRow::addSourceGap() { line_->addWidget(new SourceCell); }
 
 void AmountRow::keyPressEvent(QKeyEvent* event) {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
@@ -172,13 +264,6 @@ void AmountRow::keyPressEvent(QKeyEvent* event) {
     } else {
         QFrame::keyPressEvent(event);
     }
-}
-
-bool AmountRow::eventFilter(QObject* /*watched*/, QEvent* event) {
-    if (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent) {
-        setVisible(event->type() == QEvent::ShowToParent);
-    }
-    return false;
 }
 
 QFrame* makeColumnHead() {
@@ -191,7 +276,7 @@ QFrame* makeColumnHead() {
     head->setProperty("role", QByteArray("columnHead"));
     head->setFixedHeight(headHeight);
     auto* line = new QHBoxLayout(head);
-    line->setContentsMargins(sheetPadding, 0, columnGap + scrollBarWidth, 0);
+    line->setContentsMargins(rowPadding, 0, columnGap + scrollBarWidth, 0);
     line->setSpacing(columnGap);
     line->addStretch(1);
     for (const auto& [name, note] : heads) {
@@ -206,10 +291,7 @@ QFrame* makeColumnHead() {
         }
         line->addLayout(column);
     }
-    QLabel* source = makeText(QStringLiteral("ยอดตามรายการ"), "label");
-    source->setFixedWidth(sourceWidth);
-    source->setIndent(2 * columnGap);
-    line->addWidget(source);
+    line->addWidget(new SourceCell(makeText(QStringLiteral("ยอดตามรายการ"), "label")));
     return head;
 }
 

@@ -2,12 +2,13 @@
 // row because all take their widths from here.
 #pragma once
 
-#include <QAbstractButton>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <string_view>
 
@@ -23,6 +24,56 @@ class TieTag;
 /// A text in a use of type (ui/type.h).
 [[nodiscard]] QLabel* makeText(const QString& text, const char* type);
 
+/// The place behind the figures of a row: where they come from or go to, and whether they agree with it. On a
+/// narrow page it shrinks to the mark of the tie, and a press on it leads where the text led.
+class SourceCell : public QWidget {
+    Q_OBJECT
+
+  public:
+    /// A place that stays free; with a heading that of the column.
+    explicit SourceCell(QLabel* heading = nullptr);
+    SourceCell(const QString& text, const QString& chooserButton);
+
+    /// nullptr where there is none.
+    [[nodiscard]] TieTag* tie() const { return tie_; }
+    void setNarrow(bool narrow);
+    /// What it is narrower by then.
+    [[nodiscard]] static int narrowerBy();
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+  private:
+    QLabel* text_;
+    TieTag* tie_ = nullptr;
+    bool narrow_ = false;
+};
+
+/// Keeps the source cells of a page narrow while the page would otherwise be wider than what it is seen
+/// through.
+class SourceFold : public QObject {
+    Q_OBJECT
+
+  public:
+    /// The page owns it.
+    explicit SourceFold(QWidget& page);
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void decide();
+
+    QWidget& page_;
+    QList<SourceCell*> cells_; // of the whole page, once it is complete
+    bool narrow_ = false;
+};
+
 /// One line of the form.
 class AmountRow : public QFrame {
     Q_OBJECT
@@ -32,9 +83,8 @@ class AmountRow : public QFrame {
 
     AmountRow(Kind kind, const QString& number, const QString& caption);
 
-    /// A tick between caption and figures.
-    QAbstractButton* addTick(const QString& name);
-    void addRemark(const QString& text);
+    /// Ticks between caption and figures, the remark behind them, or below them where there is no room.
+    void addTicks(const QStringList& names, const QString& remark = {});
     /// What follows stands at the right edge.
     void endCaption();
     /// A figure to type. `said` is what a screen reader calls it.
@@ -47,13 +97,9 @@ class AmountRow : public QFrame {
     /// Leaves the place of a source free.
     void addSourceGap();
 
-    /// Has the row stand on screen only while that widget of it does.
-    void follow(QWidget& part);
-
   protected:
     /// Ctrl+Enter goes where the source of the row leads.
     void keyPressEvent(QKeyEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     Kind kind_;

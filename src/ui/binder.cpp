@@ -9,6 +9,7 @@
 #include "ui/page_scroll.h"
 #include "ui/problem_dock.h"
 #include "ui/problem_watch.h"
+#include "ui/sheet_title.h"
 #include "ui/status_line.h"
 #include "ui/type.h"
 
@@ -287,12 +288,17 @@ void Binder::markFields() {
         return;
     }
     std::map<std::string, QString> messages;
+    std::size_t count = 0;
     for (const Problem& problem : problems_->problems()) {
         if (problem.page == row->code) {
             messages.emplace(problem.refusal.control, textOf(problem));
+            ++count;
         }
     }
     page->showProblems(messages);
+    if (auto* tag = page->root()->findChild<SheetTag*>()) {
+        tag->setProblems(count);
+    }
 }
 
 void Binder::showItemStates() {

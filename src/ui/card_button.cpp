@@ -32,6 +32,16 @@ constexpr int usualHeight = leastHeight + 12;
 
 QFont fontNamed(const char* type) { return fontOf(typeOf(QLatin1String(type)), zoomNow()); }
 
+/// The font of the titles, smaller where a long title would be cut in it.
+QFont titleFont(const QString& title, int room) {
+    QFont font = fontNamed("cardTitle");
+    const int needed = QFontMetrics(font).horizontalAdvance(title);
+    if (needed > room) {
+        font.setPixelSize(std::max(1, font.pixelSize() * room / needed));
+    }
+    return font;
+}
+
 } // namespace
 
 CardButton::CardButton(QWidget* parent) : QAbstractButton(parent) {
@@ -132,12 +142,11 @@ void CardButton::paintEvent(QPaintEvent* /*event*/) {
 
     const bool open = isEnabled();
     const QRect room = rect().adjusted(zoomed(padding), zoomed(titleTop), -zoomed(padding), 0);
-    painter.setFont(fontNamed("cardTitle"));
+    const QString title = text().simplified(); // set in columns with blanks; on a card it is one line
+    painter.setFont(titleFont(title, room.width()));
     painter.setPen(palette().color(open ? QPalette::Link : QPalette::PlaceholderText));
-    // The caption of a card is set in columns with blanks; on a card it is one line.
     painter.drawText(QRect(room.topLeft(), QSize(room.width(), zoomed(titleHeight))),
-        Qt::AlignLeft | Qt::AlignVCenter,
-        painter.fontMetrics().elidedText(text().simplified(), Qt::ElideRight, room.width()));
+        Qt::AlignLeft | Qt::AlignVCenter, title);
     painter.setFont(font());
     painter.setPen(palette().color(open ? QPalette::WindowText : QPalette::PlaceholderText));
     painter.drawText(room.adjusted(0, zoomed(titleHeight), 0, 0),

@@ -24,6 +24,7 @@ constexpr std::array dresses{
     Dress{"role", "offer",      &Theme::warnGround, &Theme::warn, {3, 0, 0, 0}},
     Dress{"role", "note",       nullptr,            &Theme::rule, around, 3},
     Dress{"role", "worksheet",  &Theme::green,      &Theme::rule, around, 3},
+    Dress{"role", "stated",     &Theme::green},
     Dress{"role", "head",       nullptr,            &Theme::form, {0, 0, 0, 2}},
     Dress{"role", "group",      nullptr,            &Theme::rule, {0, 0, 0, 1}},
     Dress{"role", "line"},

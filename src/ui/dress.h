@@ -24,8 +24,8 @@ struct Edges {
 
 /// Lines are drawn as they are at every zoom, padding grows with it.
 struct Dress {
-    const char* property;         // the widgets that wear it have this property ...
-    const char* value;            // ... of this value
+    const char* property = "";    // the widgets that wear it have this property ...
+    const char* value = "";       // ... of this value
     Rgb Theme::*ground = nullptr; // nullptr: what lies behind shows through
     Rgb Theme::*line = nullptr;
     Edges lines = {};

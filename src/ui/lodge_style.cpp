@@ -1,6 +1,7 @@
 #include "ui/lodge_style.h"
 
 #include "ui/dress.h"
+#include "ui/look.h"
 #include "ui/tick_box.h"
 #include "ui/type.h"
 
@@ -38,6 +39,9 @@ constexpr int ringWidth = 2;
 /// Between the border of a field and what the toolkit puts into it.
 constexpr int fieldPadding = 8;
 constexpr int fieldRadius = 3;
+/// The icon in a field that is in the way or refused, and what stands free between it and the figure.
+constexpr int stopIconSize = 14;
+constexpr int stopIconGap = 4;
 constexpr int statusHeight = 28;
 constexpr int headHeight = 28;
 constexpr int scrollBarWidth = 12;
@@ -55,13 +59,35 @@ struct Paint {
     QColor mark;
 };
 
-Paint tickPaint(const QPalette& palette, const QStyle::State state) {
+bool isInTheWay(const QWidget* widget) {
+    return widget != nullptr && widget->property("state").toByteArray() == "way";
+}
+
+bool wearsStop(const QWidget& field) {
+    return isInTheWay(&field) || field.property("state").toByteArray() == "refused";
+}
+
+/// Where the icon of a field stands that is in the way or refused: at the end that its text leaves free;
+/// nowhere in a field that is full.
+QRect stopPlace(const QLineEdit& field, const QRect& room) {
+    const int side = zoomed(stopIconSize);
+    const int taken = field.fontMetrics().horizontalAdvance(field.displayText()) + zoomed(stopIconGap);
+    if (taken + side > room.width()) {
+        return {};
+    }
+    const bool atRight = !field.alignment().testFlag(Qt::AlignRight);
+    return {atRight ? room.right() + 1 - side : room.left(), room.center().y() - side / 2 + 1, side, side};
+}
+
+Paint tickPaint(const QPalette& palette, const QStyle::State state, const QWidget* widget) {
     const bool open = (state & QStyle::State_Enabled) != 0;
     const bool on = (state & QStyle::State_On) != 0;
     const QPalette::ColorGroup group = open ? QPalette::Active : QPalette::Disabled;
     if (!on) {
-        return {palette.color(group, QPalette::Base), palette.color(open ? QPalette::Dark : QPalette::Mid),
-            QColor()};
+        const QPalette::ColorRole border = !open                ? QPalette::Mid
+                                           : isInTheWay(widget) ? ink::stop
+                                                                : QPalette::Dark;
+        return {palette.color(group, QPalette::Base), palette.color(border), QColor()};
     }
     const QColor fill = open ? palette.color(QPalette::Link) : palette.color(QPalette::PlaceholderText);
     return {fill, fill, palette.color(QPalette::Light)};
@@ -75,8 +101,8 @@ QRectF beginMark(const QStyleOption& option, QPainter& painter) {
     return QRectF(0, 0, indicatorSize, indicatorSize).adjusted(0.75, 0.75, -0.75, -0.75);
 }
 
-void drawTick(const QStyleOption& option, QPainter& painter) {
-    const Paint paint = tickPaint(option.palette, option.state);
+void drawTick(const QStyleOption& option, QPainter& painter, const QWidget* widget) {
+    const Paint paint = tickPaint(option.palette, option.state, widget);
     const QRectF box = beginMark(option, painter);
     painter.setPen(QPen(paint.border, 1.5));
     painter.setBrush(paint.ground);
@@ -87,8 +113,8 @@ void drawTick(const QStyleOption& option, QPainter& painter) {
     }
 }
 
-void drawChoice(const QStyleOption& option, QPainter& painter) {
-    Paint paint = tickPaint(option.palette, option.state);
+void drawChoice(const QStyleOption& option, QPainter& painter, const QWidget* widget) {
+    const Paint paint = tickPaint(option.palette, option.state, widget);
     const QRectF ring = beginMark(option, painter);
     painter.setPen(QPen(paint.border, 1.5));
     painter.setBrush(option.palette.color(QPalette::Base));
@@ -323,6 +349,15 @@ void LodgeStyle::drawField(const QStyleOption& option, QPainter& painter, const 
     const FieldDress dress = fieldDressOf(widget, option.state);
     drawRounded(painter, option.rect, colour(dress.ground), QPen(colour(dress.line), dress.width),
         zoomed(fieldRadius));
+    const auto* field = qobject_cast<const QLineEdit*>(&widget);
+    if (field == nullptr || !wearsStop(*field)) {
+        return;
+    }
+    const QRect place = stopPlace(*field, insideOfField(option.rect));
+    if (!place.isEmpty()) {
+        const QColor ink = colour(&Theme::stop);
+        iconOf(QStringLiteral("stop"), ink, ink).paint(&painter, place);
+    }
 }
 
 void LodgeStyle::drawView(const QStyleOption& option, QPainter& painter, const QWidget& widget) const {
@@ -379,9 +414,9 @@ void LodgeStyle::drawPrimitive(
         painter->save();
         painter->setRenderHint(QPainter::Antialiasing);
         if (element == PE_IndicatorCheckBox) {
-            drawTick(*option, *painter);
+            drawTick(*option, *painter, widget);
         } else {
-            drawChoice(*option, *painter);
+            drawChoice(*option, *painter, widget);
         }
         painter->restore();
         return;
@@ -592,9 +627,9 @@ int LodgeStyle::styleHint(
     switch (hint) {
     // The ring lies over its neighbours and must not take their clicks.
     case SH_FocusFrame_AboveWidget: return 1;
-    case SH_FocusFrame_Mask: return 0;
+    case SH_FocusFrame_Mask:
     case SH_EtchDisabledText:
-    case SH_DialogButtonBox_ButtonsHaveIcons: return 0;
+    case SH_DialogButtonBox_ButtonsHaveIcons:
     case SH_UnderlineShortcut: return 0;
     case SH_Table_GridLineColor: return static_cast<int>(colour(&Theme::rule).rgba());
     default: return QProxyStyle::styleHint(hint, option, widget, data);

@@ -24,14 +24,17 @@ namespace lodge {
 namespace {
 
 constexpr int listWidth = 184;
+/// Of the marks alone.
+constexpr int markWidth = 44;
 constexpr int rowHeight = 32;
+constexpr int leastRowHeight = 20;
 constexpr int markSize = 16;
 constexpr int padding = 12;
 constexpr int handWidth = 3;
-/// The narrowest page that the list leaves room for; on a smaller screen there is no list.
+/// The narrowest page beside which the list says the names, too.
 constexpr int pageWidth = 1180;
 
-QFont fontNamed(const char* type) { return fontOf(typeOf(QLatin1String(type))); }
+QFont fontNamed(const char* type) { return fontOf(typeOf(QLatin1String(type)), zoomNow()); }
 
 } // namespace
 
@@ -72,16 +75,46 @@ class PageModel : public QAbstractListModel {
     std::vector<ItemState> items_;
 };
 
+/// What the list lies in: as wide as its rows, with names or without.
+class PageColumn : public QFrame {
+  public:
+    PageColumn() {
+        setProperty("role", QByteArray("pages"));
+        setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+    }
+    [[nodiscard]] bool isNarrow() const { return narrow_; }
+    void setNarrow(bool narrow) {
+        narrow_ = narrow;
+        updateGeometry();
+    }
+    [[nodiscard]] QSize sizeHint() const override {
+        return {zoomed(narrow_ ? markWidth : listWidth), QFrame::sizeHint().height()};
+    }
+    [[nodiscard]] QSize minimumSizeHint() const override {
+        return {sizeHint().width(), QFrame::minimumSizeHint().height()};
+    }
+
+  private:
+    bool narrow_ = false;
+};
+
 namespace {
 
-/// A mark of the state, the name of the page, how many things are in the way.
+/// A mark of the state, the name of the page, how many things are in the way; in a narrow list the mark.
 class PageDelegate : public QStyledItemDelegate {
   public:
-    explicit PageDelegate(const PageModel& model) : model_(model) {}
+    PageDelegate(const PageModel& model, const PageColumn& column) : model_(model), column_(column) {}
 
     [[nodiscard]] QSize sizeHint(
-        const QStyleOptionViewItem& /*option*/, const QModelIndex& /*index*/) const override {
-        return zoomed(QSize(listWidth, rowHeight));
+        const QStyleOptionViewItem& option, const QModelIndex& /*index*/) const override {
+        if (!column_.isNarrow()) {
+            return zoomed(QSize(listWidth, rowHeight));
+        }
+        // Without names the rows move together before some of them are out of view.
+        const auto* list = qobject_cast<const QListView*>(option.widget);
+        const int share = list == nullptr ? 0 : list->viewport()->height() / model_.rowCount({});
+        return {
+            zoomed(markWidth - 2 * padding), std::clamp(share, zoomed(leastRowHeight), zoomed(rowHeight))};
     }
     void paint(
         QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
@@ -95,8 +128,12 @@ class PageDelegate : public QStyledItemDelegate {
         const QRect room = option.rect.adjusted(zoomed(padding), 0, -zoomed(padding), 0);
         const QColor ink = inkOf(item, option.palette);
         const int size = zoomed(markSize);
+        const int left = column_.isNarrow() ? option.rect.center().x() - size / 2 : room.left();
         iconOf(stateDrawing(item.progress), ink, ink)
-            .paint(painter, QRect(room.left(), room.center().y() - size / 2 + 1, size, size));
+            .paint(painter, QRect(left, room.center().y() - size / 2 + 1, size, size));
+        if (column_.isNarrow()) {
+            return;
+        }
         if (item.progress == ItemProgress::InTheWay) {
             painter->setFont(fontNamed("tag"));
             painter->setPen(ink);
@@ -122,12 +159,13 @@ class PageDelegate : public QStyledItemDelegate {
     }
 
     const PageModel& model_;
+    const PageColumn& column_;
 };
 
 } // namespace
 
 PageList::PageList(const Program& program, const ProblemWatch& watch, QWidget* parent)
-    : QDockWidget(parent), program_(program), watch_(watch), model_(nullptr), list_(new QListView),
+    : QDockWidget(parent), program_(program), watch_(watch), list_(new QListView), body_(new PageColumn),
       captions_(), figures_() {
     setObjectName(QStringLiteral("decorPageList"));
     setWindowTitle(QStringLiteral("รายการ"));
@@ -136,9 +174,10 @@ PageList::PageList(const Program& program, const ProblemWatch& watch, QWidget* p
     setTitleBarWidget(new QWidget(this));
     model_ = new PageModel(list_);
     list_->setModel(model_);
-    list_->setItemDelegate(new PageDelegate(*model_));
+    list_->setItemDelegate(new PageDelegate(*model_, *body_));
     list_->itemDelegate()->setParent(list_);
     list_->setUniformItemSizes(true);
+    list_->setResizeMode(QListView::Adjust); // rows of a narrow list share its height
     list_->setProperty("role", QByteArray("pages"));
     list_->setAccessibleName(windowTitle());
     list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -147,15 +186,13 @@ PageList::PageList(const Program& program, const ProblemWatch& watch, QWidget* p
     list_->installEventFilter(this);
     connect(list_, &QListView::clicked, this, [this](const QModelIndex& at) { choose(at.row()); });
 
-    auto* body = new QFrame;
-    body->setProperty("role", QByteArray("pages"));
-    auto* rows = new QVBoxLayout(body);
+    watchBar_ = makeWatchBar();
+    auto* rows = new QVBoxLayout(body_);
     rows->setContentsMargins(0, 8, 0, 0);
     rows->setSpacing(0);
     rows->addWidget(list_, 1);
-    rows->addWidget(makeWatchBar());
-    body->setFixedWidth(zoomed(listWidth));
-    setWidget(body);
+    rows->addWidget(watchBar_);
+    setWidget(body_);
     hide();
     parent->installEventFilter(this);
     connect(&watch, &ProblemWatch::changed, this, &PageList::refresh);
@@ -206,12 +243,27 @@ void PageList::refresh() {
         captions_.at(i)->setText(captions.at(i));
         figures_.at(i)->setText(QString::fromStdString(formatMoneyText(figures.at(i))));
     }
-    showWhereThereIsRoom();
+    takeRoom();
 }
 
-void PageList::showWhereThereIsRoom() {
-    const bool onPage = watch_.hasReturn() && findPage(program_.state.intPageCur) != nullptr;
-    setVisible(onPage && parentWidget()->width() - zoomed(listWidth) >= zoomed(pageWidth));
+bool PageList::isNarrow() const { return body_->isNarrow(); }
+
+void PageList::takeRoom() {
+    const bool narrow = parentWidget()->width() - zoomed(listWidth) < zoomed(pageWidth);
+    if (narrow != isNarrow()) {
+        body_->setNarrow(narrow);
+        watchBar_->setVisible(!narrow);
+        list_->doItemsLayout();
+    }
+    setVisible(watch_.hasReturn() && findPage(program_.state.intPageCur) != nullptr);
+}
+
+void PageList::changeEvent(QEvent* event) {
+    QDockWidget::changeEvent(event);
+    // With a new style everything may be drawn larger or smaller than before.
+    if (event->type() == QEvent::StyleChange && watchBar_ != nullptr) {
+        takeRoom();
+    }
 }
 
 void PageList::choose(int row) {
@@ -228,7 +280,7 @@ void PageList::choose(int row) {
 
 bool PageList::eventFilter(QObject* watched, QEvent* event) {
     if (watched == parentWidget() && event->type() == QEvent::Resize) {
-        showWhereThereIsRoom();
+        takeRoom();
     }
     if (watched != list_ || event->type() != QEvent::KeyPress) {
         return QDockWidget::eventFilter(watched, event);

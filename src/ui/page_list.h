@@ -16,6 +16,7 @@ class QListView;
 namespace lodge {
 
 class PageModel;
+class PageColumn;
 
 class PageList : public QDockWidget {
     Q_OBJECT
@@ -25,6 +26,8 @@ class PageList : public QDockWidget {
     PageList(const Program& program, const ProblemWatch& watch, QWidget* parent);
 
     [[nodiscard]] QListView* list() const { return list_; }
+    /// Whether it is no more than a column of the marks, for want of room.
+    [[nodiscard]] bool isNarrow() const;
 
   signals:
     /// The person wants to go to that page.
@@ -34,17 +37,20 @@ class PageList : public QDockWidget {
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
   private:
     [[nodiscard]] QWidget* makeWatchBar();
     void refresh();
-    void showWhereThereIsRoom();
+    void takeRoom();
     void choose(int row);
 
     const Program& program_;
     const ProblemWatch& watch_;
-    PageModel* model_;
+    PageModel* model_ = nullptr;
     QListView* list_;
+    PageColumn* body_;
+    QWidget* watchBar_ = nullptr;
     std::array<QLabel*, 3> captions_;
     std::array<QLabel*, 3> figures_;
 };

@@ -145,4 +145,9 @@ void TickView::paint(Aspect aspect) {
     button().setChecked(ticked);
 }
 
+void TickView::showProblem(const QString& message) {
+    PressView::showProblem(message);
+    setState(message.isEmpty() ? "" : "way");
+}
+
 } // namespace lodge

@@ -43,6 +43,7 @@ class TickView : public PressView {
   public:
     TickView(Control& control, QAbstractButton& button, UserDoor& door);
     void paint(Aspect aspect) override;
+    void showProblem(const QString& message) override;
 };
 
 } // namespace lodge

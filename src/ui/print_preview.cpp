@@ -5,6 +5,7 @@
 #include "print/print_return.h"
 #include "ui/dress.h"
 #include "ui/tool_button.h"
+#include "ui/tool_strip.h"
 #include "ui/type.h"
 
 #include <QComboBox>
@@ -29,10 +30,11 @@ namespace lodge {
 namespace {
 
 constexpr QSize startSize{1180, 860};
-constexpr QSize leastSize{760, 480};
+constexpr QSize leastSize{560, 360}; // at twice its size still on a small screen
 constexpr int toolsHeight = 46;
 constexpr int statusHeight = 28;
 constexpr int listWidth = 172;
+constexpr int zoomWidth = 156;
 constexpr QSize thumbnailSize{62, 88};
 constexpr int thumbnailRow = 100;
 /// Small letters are drawn larger and made smaller: so they become grey lines instead of a jumble.
@@ -106,9 +108,9 @@ ToolButton* PrintPreview::addTool(
 }
 
 QWidget* PrintPreview::makeTools() {
-    auto* tools = new QFrame;
+    auto* tools = new ToolStrip;
     tools->setProperty("role", QByteArray("tools"));
-    tools->setFixedHeight(zoomed(toolsHeight));
+    tools->setFixedHeight(toolsHeight);
     auto* row = new QHBoxLayout(tools);
     row->setContentsMargins(8, 0, 12, 0);
     row->setSpacing(2);
@@ -122,7 +124,7 @@ QWidget* PrintPreview::makeTools() {
     row->addSpacing(16);
     zoom_ = new QComboBox;
     zoom_->setAccessibleName(QStringLiteral("ขนาดที่แสดง"));
-    zoom_->setMinimumWidth(zoomed(156));
+    zoom_->setMinimumWidth(zoomWidth);
     for (const FitChoice& choice : fits) {
         zoom_->addItem(QString::fromUtf8(choice.name));
     }
@@ -141,7 +143,7 @@ QWidget* PrintPreview::makePages() {
     pages_ = new QListWidget;
     pages_->setProperty("role", QByteArray("pages"));
     pages_->setAccessibleName(QStringLiteral("รายชื่อหน้า"));
-    pages_->setFixedWidth(zoomed(listWidth));
+    pages_->setFixedWidth(listWidth);
     pages_->setIconSize(thumbnailSize);
     pages_->setUniformItemSizes(true);
     pages_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -157,7 +159,7 @@ QWidget* PrintPreview::makePages() {
 QWidget* PrintPreview::makeStatus() {
     auto* status = new QFrame;
     status->setProperty("role", QByteArray("status"));
-    status->setFixedHeight(zoomed(statusHeight));
+    status->setFixedHeight(statusHeight);
     auto* row = new QHBoxLayout(status);
     row->setContentsMargins(12, 0, 12, 0);
     note_ = new QLabel;

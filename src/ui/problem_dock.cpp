@@ -31,6 +31,7 @@ constexpr int rowHeight = 30;
 constexpr int titleHeight = 32;
 constexpr int markSize = 16;
 constexpr int cellPadding = 8;
+constexpr int columnGap = 8;
 
 const std::array<QString, ColumnCount> heads = {QString(), QStringLiteral("หน้า"), QStringLiteral("ข้อความ"),
     QStringLiteral("สองยอดที่ต้องเท่ากัน"), QStringLiteral("ต่าง")};
@@ -47,7 +48,7 @@ QString differenceOf(const Problem& problem) {
     return sides ? money(std::abs(sides->here - sides->there)) : QString();
 }
 
-QFont fontNamed(const char* type) { return fontOf(typeOf(QLatin1String(type))); }
+QFont fontNamed(const char* type) { return fontOf(typeOf(QLatin1String(type)), zoomNow()); }
 
 /// Plain rows with a hairline below each; the row in hand is tinted.
 class RowDelegate : public QStyledItemDelegate {
@@ -90,6 +91,48 @@ void addKey(QHBoxLayout& row, const QString& key, const QString& meaning) {
     row.addWidget(does, 0, Qt::AlignVCenter);
     row.addSpacing(8);
 }
+
+/// The head of the dock, which asks it for its height and not for the least one. The keys go where there is
+/// no room for them.
+class DockTitle : public QFrame {
+  public:
+    explicit DockTitle(QWidget* parent) : QFrame(parent), keys_(new QWidget) {
+        auto* row = new QHBoxLayout(keys_);
+        row->setContentsMargins(0, 0, 0, 0);
+        row->setSpacing(6);
+        addKey(*row, QStringLiteral("F8"), QStringLiteral("ถัดไป"));
+        addKey(*row, QStringLiteral("Shift+F8"), QStringLiteral("ก่อนหน้า"));
+        addKey(*row, QStringLiteral("Enter"), QStringLiteral("ไปที่ช่อง"));
+        addKey(*row, QStringLiteral("F7"), QStringLiteral("ซ่อน"));
+    }
+
+    [[nodiscard]] QWidget* keys() const { return keys_; }
+    [[nodiscard]] QSize sizeHint() const override {
+        return {QFrame::sizeHint().width(), zoomed(titleHeight)};
+    }
+    [[nodiscard]] QSize minimumSizeHint() const override { return {0, zoomed(titleHeight)}; }
+
+  protected:
+    bool event(QEvent* event) override {
+        if (event->type() == QEvent::LayoutRequest) {
+            fit();
+        }
+        return QFrame::event(event);
+    }
+    void resizeEvent(QResizeEvent* event) override {
+        QFrame::resizeEvent(event);
+        fit();
+    }
+
+  private:
+    void fit() {
+        const int keys = keys_->sizeHint().width() + layout()->spacing();
+        const int others = QFrame::sizeHint().width() - (keys_->isHidden() ? 0 : keys);
+        keys_->setVisible(others + keys <= width());
+    }
+
+    QWidget* keys_;
+};
 
 } // namespace
 
@@ -162,7 +205,7 @@ class ProblemModel : public QAbstractTableModel {
 };
 
 ProblemDock::ProblemDock(const ProblemWatch& watch, QWidget* parent)
-    : QDockWidget(parent), watch_(watch), model_(nullptr), list_(new QTreeView), count_(new TextLabel),
+    : QDockWidget(parent), watch_(watch), list_(new QTreeView), count_(new TextLabel),
       nothing_(new TextLabel(QStringLiteral("ไม่มีรายการติดขัด จัดเก็บได้"))), body_(new QStackedWidget) {
     setObjectName(QStringLiteral("decorProblems"));
     setWindowTitle(QStringLiteral("รายการที่ยังติดขัด"));
@@ -172,16 +215,15 @@ ProblemDock::ProblemDock(const ProblemWatch& watch, QWidget* parent)
     makeList();
     body_->addWidget(list_);
     body_->addWidget(makeNothing());
-    body_->setMinimumHeight(zoomed(3 * rowHeight));
+    body_->setMinimumHeight(3 * rowHeight);
     setWidget(body_);
     connect(&watch, &ProblemWatch::changed, this, &ProblemDock::refresh);
     refresh();
 }
 
 QWidget* ProblemDock::makeTitle() {
-    auto* title = new QFrame(this);
+    auto* title = new DockTitle(this);
     title->setProperty("role", QByteArray("dockTitle"));
-    title->setFixedHeight(zoomed(titleHeight));
     auto* row = new QHBoxLayout(title);
     row->setContentsMargins(12, 0, 12, 0);
     row->setSpacing(6);
@@ -193,10 +235,7 @@ QWidget* ProblemDock::makeTitle() {
     count_->setProperty("role", QByteArray("pill"));
     row->addWidget(count_, 0, Qt::AlignVCenter);
     row->addStretch(1);
-    addKey(*row, QStringLiteral("F8"), QStringLiteral("ถัดไป"));
-    addKey(*row, QStringLiteral("Shift+F8"), QStringLiteral("ก่อนหน้า"));
-    addKey(*row, QStringLiteral("Enter"), QStringLiteral("ไปที่ช่อง"));
-    addKey(*row, QStringLiteral("F7"), QStringLiteral("ซ่อน"));
+    row->addWidget(title->keys());
     auto* close = new QToolButton;
     close->setProperty("drawing", QByteArray("cross"));
     close->setAccessibleName(QStringLiteral("ซ่อน"));
@@ -217,7 +256,7 @@ QWidget* ProblemDock::makeNothing() {
     rows->setContentsMargins(0, 0, 0, 0);
     nothing_->setProperty("type", QByteArray("field"));
     nothing_->setProperty("role", QByteArray("nothing"));
-    nothing_->setFixedHeight(zoomed(titleHeight));
+    nothing_->setFixedHeight(titleHeight);
     rows->addWidget(nothing_);
     rows->addStretch(1);
     return paper;
@@ -236,26 +275,46 @@ void ProblemDock::makeList() {
     list_->setIconSize(QSize(markSize, markSize));
     list_->setAccessibleName(windowTitle());
     list_->setProperty("role", QByteArray("problems"));
-    list_->setFont(fontNamed("field"));
-    const QFontMetrics metrics(fontNamed("field"));
+    list_->setProperty("type", QByteArray("field"));
     QHeaderView& head = *list_->header();
-    head.setFont(fontNamed("label"));
+    head.setProperty("type", QByteArray("label"));
     head.setSectionsMovable(false);
     head.setSectionsClickable(false);
     head.setStretchLastSection(false);
-    head.setMinimumSectionSize(zoomed(markSize + 2 * cellPadding));
     head.setSectionResizeMode(QHeaderView::Fixed);
     head.setSectionResizeMode(TextColumn, QHeaderView::Stretch);
-    head.resizeSection(IconColumn, zoomed(markSize + 2 * cellPadding));
-    head.resizeSection(PageColumn,
-        metrics.horizontalAdvance(QStringLiteral("รายการที่ 1 และ 2")) + 2 * zoomed(cellPadding) + 8);
-    // Two long amounts side by side; longer ones are in the tool tip of the row.
-    head.resizeSection(SidesColumn,
-        metrics.horizontalAdvance(QStringLiteral("99,999,999.99 / 99,999,999.99")) + 2 * zoomed(cellPadding));
-    head.resizeSection(DifferenceColumn,
-        metrics.horizontalAdvance(QStringLiteral("999,999,999.99")) + 2 * zoomed(cellPadding));
     list_->installEventFilter(this);
     connect(list_, &QTreeView::doubleClicked, this, [this](const QModelIndex& at) { choose(at.row()); });
+}
+
+/// Everything but the text has the width that it needs; the text takes what is left.
+void ProblemDock::fitColumns() {
+    QHeaderView& head = *list_->header();
+    const QFontMetrics ofHeads(fontNamed("label"));
+    const QFontMetrics ofCells(fontNamed("field"));
+    const int mark = zoomed(markSize + 2 * cellPadding);
+    head.setMinimumSectionSize(mark);
+    head.resizeSection(IconColumn, mark);
+    for (const int column : {PageColumn, SidesColumn, DifferenceColumn}) {
+        int width = ofHeads.horizontalAdvance(heads.at(static_cast<std::size_t>(column)));
+        for (int row = 0; row < model_->rowCount({}); ++row) {
+            width = std::max(width, ofCells.horizontalAdvance(model_->index(row, column).data().toString()));
+        }
+        head.resizeSection(column, width + zoomed(2 * cellPadding + columnGap));
+    }
+}
+
+void ProblemDock::changeEvent(QEvent* event) {
+    QDockWidget::changeEvent(event);
+    // With a new style everything may be drawn larger or smaller than before.
+    if (event->type() == QEvent::StyleChange && isVisible()) {
+        fitColumns();
+    }
+}
+
+void ProblemDock::showEvent(QShowEvent* event) {
+    QDockWidget::showEvent(event);
+    fitColumns();
 }
 
 void ProblemDock::refresh() {
@@ -263,6 +322,9 @@ void ProblemDock::refresh() {
     const Refusal kept = row < 0 ? Refusal() : model_->problems().at(static_cast<std::size_t>(row)).refusal;
     const std::vector<Problem>& problems = watch_.problems();
     model_->show(problems);
+    if (isVisible()) {
+        fitColumns();
+    }
     if (const int same = model_->rowOf(kept); same >= 0) {
         list_->setCurrentIndex(model_->index(same, TextColumn));
     }

@@ -39,16 +39,19 @@ class ProblemDock : public QDockWidget {
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
   private:
     [[nodiscard]] QWidget* makeTitle();
     [[nodiscard]] QWidget* makeNothing();
     void makeList();
+    void fitColumns();
     void refresh();
     void choose(int row);
 
     const ProblemWatch& watch_;
-    ProblemModel* model_;
+    ProblemModel* model_ = nullptr;
     QTreeView* list_;
     QLabel* count_;
     QLabel* nothing_;

@@ -1,6 +1,7 @@
 #include "ui/sheet_title.h"
 
-#include "ui/theme.h"
+#include "ui/dress.h"
+#include "ui/look.h"
 #include "ui/type.h"
 
 #include <QPainter>
@@ -13,6 +14,9 @@ constexpr int titleHeight = 50;
 constexpr int gap = 12;
 /// Marks stand higher above the line than they hang below it.
 constexpr int baseline = 32;
+/// The icon of a tag, in the padding in front of its words.
+constexpr int iconSize = 14;
+constexpr int iconLeft = 8;
 
 QFont nameFont() { return fontOf(typeOf(QStringLiteral("sheetHead")), zoomNow()); }
 QFont remarkFont() { return fontOf(typeOf(QStringLiteral("sheetName")), zoomNow()); }
@@ -57,6 +61,27 @@ void SheetTitle::paintEvent(QPaintEvent* /*event*/) {
     painter.setFont(remarkFont());
     painter.setPen(palette().color(QPalette::Active, QPalette::WindowText));
     painter.drawText(after, zoomed(baseline), remark());
+}
+
+SheetTag::SheetTag(QWidget* parent) : TextLabel(parent) {
+    setTextFormat(Qt::PlainText);
+    setProperty("role", QByteArray("differs"));
+    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Maximum);
+    hide();
+}
+
+void SheetTag::setProblems(std::size_t count) {
+    setText(count == 0 ? QString() : QStringLiteral("ติดขัด %1").arg(count));
+    setVisible(count != 0);
+}
+
+void SheetTag::paintEvent(QPaintEvent* event) {
+    TextLabel::paintEvent(event);
+    const QColor ink = palette().color(inkOf(*this));
+    const int side = zoomed(iconSize);
+    QPainter painter(this);
+    iconOf(QStringLiteral("stop"), ink, ink)
+        .paint(&painter, QRect(zoomed(iconLeft), (height() - side) / 2, side, side));
 }
 
 } // namespace lodge

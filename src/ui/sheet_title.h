@@ -1,8 +1,13 @@
 // The title of a sheet or card, as the paper form sets it: the name in bold, what stands in brackets behind
-// it lighter, on one baseline.
+// it lighter, on one baseline. And the tag at the end of a sheet's head that says how much on the page is in
+// the way of filing.
 #pragma once
 
+#include "ui/text_label.h"
+
 #include <QWidget>
+
+#include <cstddef>
 
 namespace lodge {
 
@@ -32,6 +37,19 @@ class SheetTitle : public QWidget {
 
     QString text_;
     QString remark_;
+};
+
+class SheetTag : public TextLabel {
+    Q_OBJECT
+
+  public:
+    explicit SheetTag(QWidget* parent = nullptr);
+
+    /// How many things on the page are in the way; for none the tag goes.
+    void setProblems(std::size_t count);
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
 };
 
 } // namespace lodge

@@ -19,6 +19,8 @@ namespace {
 constexpr std::size_t idField = 45;
 /// The button of the problems and the zoom.
 constexpr int roomOfOthers = 190;
+/// Of the lines that could not be read; all of them stand in the tool tip.
+constexpr std::size_t mostDamageShown = 4;
 
 QLabel* makeLabel(const char* name) {
     auto* label = new TextLabel;
@@ -63,6 +65,19 @@ QString storeKind(const std::string& type) {
                          : QStringLiteral("จัดเก็บอัตโนมัติ");
 }
 
+/// The numbers of the lines, as far as a status bar has room for them.
+QString linesOf(const std::vector<std::size_t>& lines, std::size_t most) {
+    QStringList numbers;
+    for (const std::size_t line : lines) {
+        if (static_cast<std::size_t>(numbers.size()) == most) {
+            numbers << QStringLiteral("…");
+            break;
+        }
+        numbers << QString::number(line);
+    }
+    return numbers.join(QStringLiteral(", "));
+}
+
 } // namespace
 
 StatusLine::StatusLine(const Program& program, QWidget& hints, QStatusBar& bar)
@@ -70,8 +85,10 @@ StatusLine::StatusLine(const Program& program, QWidget& hints, QStatusBar& bar)
       bar_(bar), number_{makeLabel("decorStatusNumber"), QStringLiteral("เลขประจำตัวผู้เสียภาษีอากร"), {}},
       period_{makeLabel("decorStatusPeriod"), QStringLiteral("รอบระยะเวลาบัญชี"), {}},
       page_{makeLabel("decorStatusPage"), {}, {}}, store_{makeLabel("decorStatusStore"), {}, {}},
-      zoom_(makeLabel("decorStatusZoom")), begun_(QDateTime::currentDateTime()) {
-    for (const Part* part : {&number_, &period_, &page_, &store_}) {
+      damage_{makeLabel("decorStatusDamage"), {}, {}}, zoom_(makeLabel("decorStatusZoom")),
+      begun_(QDateTime::currentDateTime()) {
+    damage_.label->setProperty("tone", QByteArray("warn"));
+    for (const Part* part : {&damage_, &number_, &period_, &page_, &store_}) {
         bar_.addPermanentWidget(part->label);
         part->label->hide();
     }
@@ -104,6 +121,19 @@ void StatusLine::refresh() {
     say(number_, open ? numberOf(program_) : QString());
     say(period_, open ? periodOf(program_.state) : QString());
     say(page_, pageOf(program_));
+    sayDamage(open);
+}
+
+/// Stands as long as the return is open: its figures are what could be read, and not all that was stored.
+void StatusLine::sayDamage(bool open) {
+    const std::vector<std::size_t>& lines = program_.damagedLines;
+    const QString caption = QStringLiteral("บรรทัดที่อ่านไม่ได้ ");
+    const bool any = open && !lines.empty();
+    say(damage_, any ? caption + linesOf(lines, mostDamageShown) : QString());
+    if (any) {
+        damage_.label->setAccessibleName(caption + linesOf(lines, lines.size()));
+        damage_.label->setToolTip(damage_.label->accessibleName());
+    }
 }
 
 void StatusLine::refreshStore() {
@@ -120,7 +150,7 @@ void StatusLine::refreshStore() {
 void StatusLine::fit() {
     // With captions while they leave the hints their room; then without; then without the hints; and at last
     // what the page itself says goes, too.
-    const std::array parts = {&page_, &period_, &number_, &store_};
+    const std::array parts = {&page_, &period_, &number_, &store_, &damage_};
     const auto widthOf = [&](bool captioned) {
         int width = zoomed(roomOfOthers);
         for (const Part* part : parts) {

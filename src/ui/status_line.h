@@ -1,5 +1,5 @@
 // What the status bar says beside the hint: who files, for which period, the page on screen, the last store,
-// the zoom.
+// the lines of the loaded file that could not be read, the zoom.
 #pragma once
 
 #include "program/program.h"
@@ -38,6 +38,7 @@ class StatusLine : public QObject {
     };
 
     void say(Part& part, const QString& text);
+    void sayDamage(bool open);
     void fit();
 
     const Program& program_;
@@ -47,6 +48,7 @@ class StatusLine : public QObject {
     Part period_;
     Part page_;
     Part store_;
+    Part damage_;
     QLabel* zoom_;
     QDateTime begun_;
 };

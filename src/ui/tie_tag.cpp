@@ -19,6 +19,8 @@ namespace {
 
 constexpr int iconSize = 14;
 constexpr int iconLeft = 8;
+/// Of the icon alone, with what stands free around it.
+constexpr int markWidth = 26;
 
 std::string figureOf(const QWidget& side) {
     const auto* label = qobject_cast<const QLabel*>(&side);
@@ -37,7 +39,14 @@ TieTag::TieTag(QWidget* parent) : TextLabel(parent) {
 
 QSize TieTag::sizeHint() const {
     // An empty tag keeps its height, so that nothing moves when it speaks.
-    return {text().isEmpty() ? 0 : TextLabel::sizeHint().width(), TextLabel::sizeHint().height()};
+    const int width = markOnly_ ? zoomed(markWidth) : TextLabel::sizeHint().width();
+    return {text().isEmpty() ? 0 : width, TextLabel::sizeHint().height()};
+}
+
+void TieTag::setMarkOnly(bool markOnly) {
+    markOnly_ = markOnly;
+    updateGeometry();
+    update();
 }
 
 void TieTag::compare(QWidget& here, QWidget& there) {
@@ -126,7 +135,9 @@ void TieTag::show(const QString& text, const char* role) {
 }
 
 void TieTag::paintEvent(QPaintEvent* event) {
-    TextLabel::paintEvent(event);
+    if (!markOnly_) {
+        TextLabel::paintEvent(event);
+    }
     if (text().isEmpty()) {
         return;
     }
@@ -134,8 +145,12 @@ void TieTag::paintEvent(QPaintEvent* event) {
     const QColor ink = palette().color(foregroundRole());
     const int side = zoomed(iconSize);
     QPainter painter(this);
+    if (markOnly_) {
+        drawFrame(&painter);
+    }
+    const int left = markOnly_ ? (width() - side) / 2 : zoomed(iconLeft);
     iconOf(agrees ? QStringLiteral("tick") : QStringLiteral("cross"), ink, ink)
-        .paint(&painter, QRect(zoomed(iconLeft), (height() - side) / 2, side, side));
+        .paint(&painter, QRect(left, (height() - side) / 2, side, side));
 }
 
 } // namespace lodge

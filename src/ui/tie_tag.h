@@ -31,6 +31,9 @@ class TieTag : public TextLabel {
     /// Takes the figures of other pages anew; those of nothing are left alone.
     void readOthers(const std::function<std::optional<std::string>(const QString&)>& valueOf);
 
+    /// Shows the icon alone; the words are in the tool tip and what a screen reader says.
+    void setMarkOnly(bool markOnly);
+
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
@@ -53,6 +56,7 @@ class TieTag : public TextLabel {
 
     QString sides_;
     QList<Pair> pairs_;
+    bool markOnly_ = false;
 };
 
 } // namespace lodge

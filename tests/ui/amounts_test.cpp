@@ -8,10 +8,14 @@
 #include "ui/amount_page.h"
 #include "ui/amount_rows.h"
 #include "ui/link_label.h"
+#include "ui/page_list.h"
+#include "ui/page_scroll.h"
 #include "ui/tie_tag.h"
 #include "ui/two_columns.h"
+#include "ui/type.h"
 #include "ui/veil.h"
 
+#include <QAbstractButton>
 #include <QBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -61,6 +65,13 @@ void open(Desktop& desktop, const char* form) {
     desktop.program.state.intP1Box2 = 1;
     desktop.program.desk.show(form);
     Desktop::settle();
+}
+
+/// The same with the list of pages beside it.
+void openInReturn(Desktop& desktop, const char* form) {
+    desktop.program.desk.unload("frmLodgeStart");
+    open(desktop, form);
+    QVERIFY(desktop.binder.frame()->findChild<PageList*>()->isVisible());
 }
 
 void typeAmount(Desktop& desktop, const char* form, const char* box, const QString& text) {
@@ -121,6 +132,74 @@ class AmountsTest : public QObject {
         QVERIFY(!row->isVisible());
         typeAmount(desktop, item3, "txtMoney32(0)", QStringLiteral("1000"));
         QVERIFY(row->isVisible());
+    }
+
+    void theSideBoxIsHeadedAsTheWorksheetThatItIs() {
+        Desktop desktop(application_.look);
+        open(desktop, item3);
+        const QLabel* heading = labelOf(
+            rootOf(desktop, item3), QStringLiteral("กระดาษทำการสำหรับ บริษัทที่ประกอบทั้งกิจการที่ได้รับยกเว้น..."));
+        const QLabel* task = labelOf(rootOf(desktop, item3),
+            QStringLiteral("กรุณาบันทึก ข้อ 22 กำไรสุทธิที่ต้องเสียภาษี หรือขาดทุนสุทธิ ตามหลักเกณฑ์ ..."));
+        QVERIFY(heading != nullptr && task != nullptr);
+        QVERIFY(!heading->isVisible());
+        typeAmount(desktop, item3, "txtMoney31(0)", QStringLiteral("1000"));
+        typeAmount(desktop, item3, "txtMoney32(0)", QStringLiteral("1000"));
+        QVERIFY(heading->isVisible() && task->isVisible());
+    }
+
+    void line18HasBothOfItsCaptions() {
+        Desktop desktop(application_.look);
+        open(desktop, item3);
+        QVERIFY(labelOf(rootOf(desktop, item3),
+                    QStringLiteral("บวก รายจ่ายเพื่อสนับสนุนการกีฬาตามโครงการฯ\nส่วนที่เกินร้อยละ 20 ของกำไรสุทธิ\n"
+                                   "บวก รายจ่ายส่วนที่เกินร้อยละ 5 ของกำไรสุทธิ"))
+                != nullptr);
+    }
+
+    void theRemarkOfLine9StandsBesideItsTicksAndThePageBesideItsList() {
+        Desktop desktop(application_.look);
+        openInReturn(desktop, item3);
+        QVERIFY(!desktop.binder.frame()->findChild<PageList*>()->isNarrow());
+        const QWidget& root = rootOf(desktop, item3);
+        const QLabel* remark = labelOf(root, QStringLiteral("ตามบัญชีกำไรขาดทุน"));
+        const QWidget* tick = desktop.widget(item3, "chkLose9");
+        QTRY_VERIFY(remark->mapTo(&root, QPoint()).x() > edgesOf(root, *tick).second);
+        QVERIFY(remark->width() >= remark->fontMetrics().horizontalAdvance(remark->text()));
+    }
+
+    void atOneAndAHalfTimesTheSizeItem3DoesNotScrollSideways() {
+        application_.look.setZoom(1.5);
+        const auto plain = qScopeGuard([this] { application_.look.setZoom(1); });
+        Desktop desktop(application_.look);
+        desktop.program.state.strFldPage3_4[17] = "12500.00"; // item 4, taxable business
+        openInReturn(desktop, item3);
+        QVERIFY(desktop.binder.frame()->findChild<PageList*>()->isNarrow());
+        const QWidget& root = rootOf(desktop, item3);
+        QTRY_COMPARE(PageScroll::around(root)->horizontalScrollBar()->maximum(), 0);
+        const auto* tie = desktop.widget(item3, "txtMoney32(1)")->parentWidget()->findChild<TieTag*>();
+        QTRY_VERIFY(tie->width() < zoomed(30)); // its icon
+        QCOMPARE(tie->toolTip(), QStringLiteral("ต่าง 12,500.00"));
+        QCOMPARE(tie->accessibleDescription(), QStringLiteral("ต่าง 12,500.00"));
+        const QLabel* origin = labelOf(root, QStringLiteral("จากรายการที่ 4 9."));
+        QVERIFY(!origin->isVisible());
+        application_.look.setZoom(1);
+        QTRY_VERIFY(origin->isVisible());
+    }
+
+    void onANarrowPageAPressOnTheMarkLeadsToTheItem() {
+        Desktop desktop(application_.look);
+        desktop.binder.frame()->setMinimumWidth(0);
+        desktop.binder.frame()->resize(960, 700);
+        open(desktop, item3);
+        desktop.program.shell().EnableTools(true);
+        NextBox box([](BoxWindow& window) { QTest::keyClick(&window, Qt::Key_Return); });
+        auto* mark = desktop.widget(item3, "txtMoney32(1)")->parentWidget()->findChild<SourceCell*>();
+        QTRY_COMPARE(mark->toolTip(), QStringLiteral("จากรายการที่ 4 9."));
+        QTest::mouseClick(mark, Qt::LeftButton);
+        Desktop::settle();
+        QVERIFY(box.came());
+        QVERIFY(desktop.program.desk.find("frmLodgePage3_4") != nullptr);
     }
 
     void theRowInHandIsTinted() {

@@ -5,7 +5,10 @@
 #include "ui/card_button.h"
 #include "ui/page_list.h"
 #include "ui/problem_dock.h"
+#include "ui/sheet_title.h"
 
+#include <QAbstractButton>
+#include <QLabel>
 #include <QListView>
 #include <QMainWindow>
 #include <QTreeView>
@@ -15,6 +18,7 @@ namespace lodge {
 namespace {
 
 constexpr const char* soundReturn = LODGE_TEST_DATA "/returns/ordinary-company/01055360003132561100C.txt";
+constexpr const char* damagedReturn = LODGE_TEST_DATA "/returns/damaged-line-17/01055360003132561100N.txt";
 constexpr const char* withProblems = LODGE_TEST_DATA "/returns/two-problems/01055360003132561100N.txt";
 
 } // namespace
@@ -254,19 +258,142 @@ class ProblemsTest : public QObject {
         QCOMPARE(pages->list()->currentIndex().row(), 0);
     }
 
-    void thePageListGoesWhereThereIsNoRoomForIt() {
-        load(soundReturn);
+    void thePageListIsAColumnOfMarksWhereThereIsNoRoomForNames() {
+        load(withProblems);
         auto* pages = desktop_->binder.frame()->findChild<PageList*>();
-        QVERIFY(pages->isVisible());
+        QVERIFY(!pages->isNarrow());
+        QCOMPARE(pages->width(), 184);
+        const QWidget* tax = nullptr; // of the figures below the list
+        for (const QLabel* label : pages->findChildren<QLabel*>()) {
+            tax = label->text() == QStringLiteral("ภาษีที่คำนวณได้") ? label : tax;
+        }
+        QVERIFY(tax->isVisible());
         desktop_->binder.frame()->resize(1180, 640);
         Desktop::settle();
-        QVERIFY(!pages->isVisible());
-        desktop_->binder.frame()->resize(1366, 768);
+        QVERIFY(pages->isVisible() && pages->isNarrow());
+        QTRY_COMPARE(pages->width(), 44);
+        QVERIFY(!tax->isVisible());
+        const QModelIndex third = pages->list()->model()->index(2, 0);
+        QCOMPARE(third.data(Qt::AccessibleTextRole).toString(), QStringLiteral("รายการที่ 3: ติดขัด 1"));
+        QCOMPARE(third.data(Qt::ToolTipRole).toString(), QStringLiteral("รายการที่ 3: ติดขัด 1"));
+        QTest::mouseClick(
+            pages->list()->viewport(), Qt::LeftButton, {}, pages->list()->visualRect(third).center());
         Desktop::settle();
-        QVERIFY(pages->isVisible());
+        QCOMPARE(desktop_->program.state.intPageCur, 33);
+        desktop_->binder.frame()->resize(1366, 768);
+        QTRY_COMPARE(pages->width(), 184);
         strike(Qt::Key_F3);
         Desktop::settle();
         QVERIFY(!pages->isVisible()); // the cards say the same
+    }
+
+    void thePageListIsAColumnOfMarksWhereEverythingIsDrawnLarge() {
+        load(soundReturn);
+        auto* pages = desktop_->binder.frame()->findChild<PageList*>();
+        const auto plain = qScopeGuard([this] { application_.look.setZoom(1); });
+        application_.look.setZoom(1.5);
+        QVERIFY(pages->isNarrow());
+        QTRY_COMPARE(pages->width(), 66);
+        application_.look.setZoom(1);
+        QVERIFY(!pages->isNarrow());
+        QTRY_COMPARE(pages->width(), 184);
+    }
+
+    void longAmountsInTheListAreWhole() {
+        load(withProblems);
+        desktop_->program.state.strFldPage4_7[9] = "9999999999999.99";
+        strike(Qt::Key_F7);
+        strike(Qt::Key_F3);
+        Desktop::settle();
+        QTreeView& list = *dock()->list();
+        QCOMPARE(cell(0, 3), QStringLiteral("50,000.00 / 9,999,999,999,999.99"));
+        constexpr int padding = 16;
+        for (const int column : {3, 4}) {
+            const int needed = QFontMetrics(list.font()).horizontalAdvance(cell(0, column));
+            QTRY_VERIFY(list.columnWidth(column) >= needed + padding);
+        }
+    }
+
+    void theHeadOfTheListGrowsWithTheSizeAndLetsItsKeysGo() {
+        load(withProblems);
+        const auto plain = qScopeGuard([this] { application_.look.setZoom(1); });
+        application_.look.setZoom(2);
+        strike(Qt::Key_F7);
+        QTRY_COMPARE(dock()->titleBarWidget()->height(), 64);
+        QTRY_VERIFY(dock()->width() <= desktop_->binder.frame()->width());
+        QVERIFY(dock()->findChild<QToolButton*>()->isVisible());
+        for (const QLabel* label : dock()->findChildren<QLabel*>()) {
+            QTRY_VERIFY(label->text() != QStringLiteral("Shift+F8") || !label->isVisible());
+        }
+    }
+
+    void theHeadOfTheSheetSaysHowMuchOfThePageIsInTheWay() {
+        load(withProblems);
+        const auto* onPage1 = desktop_->binder.viewOf("frmLodgePage1")->root()->findChild<SheetTag*>();
+        QVERIFY(!onPage1->isVisible());
+        open("cmdItem13");
+        const auto* tag = desktop_->binder.viewOf("frmLodgePage8")->root()->findChild<SheetTag*>();
+        QVERIFY(tag->isVisible());
+        QCOMPARE(tag->text(), QStringLiteral("ติดขัด 1"));
+        User(desktop_->program.desk).type(desktop_->control("frmLodgePage8", "mskDate1"), "10052562");
+        Desktop::settle();
+        QVERIFY(!tag->isVisible());
+    }
+
+    void aFieldInTheWayHasTheStopIconAtTheEndThatItsTextLeavesFree() {
+        load(withProblems);
+        open("cmdItem03");
+        const auto stopInkIn = [](QWidget& field, int from, int to) {
+            const QImage picture = field.grab().toImage();
+            for (int x = from; x < to; ++x) {
+                for (int y = 4; y < picture.height() - 4; ++y) { // within the border
+                    const QColor ink = picture.pixelColor(x, y);
+                    if (ink.red() > ink.green() + 100) return true; // of the colours of the look: stop alone
+                }
+            }
+            return false;
+        };
+        QWidget* inTheWay = desktop_->widget("frmLodgePage3_3", "txtMoney32(5)");
+        QWidget* sound = desktop_->widget("frmLodgePage3_3", "txtMoney32(3)");
+        QTRY_VERIFY(stopInkIn(*inTheWay, 4, 26));
+        QVERIFY(!stopInkIn(*inTheWay, 30, inTheWay->width() - 4));
+        QVERIFY(!stopInkIn(*sound, 4, sound->width() - 4));
+    }
+
+    void aTickInTheWayIsMarkedToo() {
+        load(soundReturn);
+        desktop_->program.state.intAuditStatus = 0;
+        strike(Qt::Key_F7);
+        Desktop::settle();
+        QStringList marked;
+        for (const QAbstractButton* tick :
+            desktop_->binder.viewOf("frmLodgePage1")->root()->findChildren<QAbstractButton*>()) {
+            if (tick->property("state").toByteArray() == "way") marked << tick->objectName();
+        }
+        QVERIFY2(!marked.isEmpty(), qPrintable(cell(0, 2)));
+    }
+
+    void theStatusBarNamesTheLinesThatCouldNotBeReadWhileTheReturnIsOpen() {
+        load(damagedReturn);
+        const auto* damage =
+            desktop_->binder.frame()->findChild<QLabel*>(QStringLiteral("decorStatusDamage"));
+        QVERIFY(damage->isVisible());
+        QCOMPARE(damage->text(), QStringLiteral("บรรทัดที่อ่านไม่ได้ 17"));
+        strike(Qt::Key_F3);
+        Desktop::settle();
+        QVERIFY(damage->isVisible());
+        desktop_->program.damagedLines = {17, 203};
+        open("cmdItem03");
+        QCOMPARE(damage->text(), QStringLiteral("บรรทัดที่อ่านไม่ได้ 17, 203"));
+        const NextBox box([](BoxWindow& window) {
+            for (QAbstractButton* answer : window.buttons()) {
+                if (answer->text() == QStringLiteral("ใช่")) answer->click();
+            }
+        });
+        QTest::mouseClick(desktop_->widget("MDILodge", "cmdPageFirst"), Qt::LeftButton);
+        Desktop::settle();
+        QVERIFY(box.came());
+        QVERIFY(!damage->isVisible());
     }
 
     void aNewReturnPutsTheListAway() {

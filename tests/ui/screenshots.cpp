@@ -1,4 +1,5 @@
 // Draws the screens of the program into PNG files: ui_screenshots FOLDER [light|dark [SCREEN [ZOOM]]]
+// Some screens are drawn at a zoom of their own whatever ZOOM says.
 //
 // Each screen is drawn at 1366x768, at 2560x1440 and at twice the pixels, light and dark, so that a look at
 // the folder shows what is cut, cramped or out of line.
@@ -11,9 +12,11 @@
 #include "shell/shell.h"
 #include "ui/binder.h"
 #include "ui/boxes.h"
+#include "ui/desktop_printer.h"
 #include "ui/look.h"
 #include "ui/problem_dock.h"
 #include "ui/qt_host.h"
+#include "ui/recovery_band.h"
 #include "ui/thai_texts.h"
 #include "values/messages.h"
 
@@ -22,6 +25,7 @@
 #include <QFileDialog>
 #include <QPainter>
 #include <QPixmap>
+#include <QProgressBar>
 #include <QTest>
 #include <QTreeView>
 
@@ -40,6 +44,7 @@ class SilentHost : public QtHost {
         qInfo("box: %s", box.text.c_str());
         return box.buttons == Buttons::YesNo ? Answer::Yes : Answer::Ok;
     }
+    std::optional<PageRange> choosePages() override { return PageRange{}; }
     [[nodiscard]] std::filesystem::path programFolder() const override { return LODGE_PROGRAM_FOLDER; }
     [[nodiscard]] std::chrono::year_month_day today() const override {
         return std::chrono::year(2019) / std::chrono::May / 17;
@@ -49,6 +54,7 @@ class SilentHost : public QtHost {
 struct Screen {
     const char* name;
     std::function<void(Program&, User&)> open;
+    double zoom = 0; // of its own; 0 for the one that is asked for
 };
 
 struct FilledField {
@@ -384,6 +390,39 @@ void openStarted(Program& program, User& user) {
     program.desk.show("frmLodgeChoose");
 }
 
+void openItem3(Program& program, User& user) {
+    typeAmounts(program, user, "frmLodgePage3_3", item3Example, fillSchedules);
+}
+
+/// The start screen after a crash, with the newest automatic store beside the offer.
+void offerRecovered(Program& /*program*/, User& /*user*/) {
+    using namespace std::chrono;
+    const sys_seconds crash = sys_days(year(2019) / May / 17) + 9h + 32min;
+    const ReturnNote recovered{
+        .path = {}, .storedAt = crash, .number = "0105536000313", .start = "01012561", .finish = "31122561"};
+    ReturnNote automatic = recovered;
+    automatic.storedAt = crash - 14min;
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (auto* band = window->findChild<RecoveryBand*>()) {
+            band->offer(recovered, automatic);
+        }
+    }
+}
+
+/// The pages of a stored return, as they come up before they are printed.
+void openPreview(Program& program, User& user) {
+    openStored(program, user);
+    user.click(*program.desk.find("MDILodge")->find("CmdPrint"));
+    const auto isDrawn = [] {
+        const QWidget* preview = QApplication::activeModalWidget();
+        const auto* progress = preview == nullptr ? nullptr : preview->findChild<QProgressBar*>();
+        return progress != nullptr && progress->isHidden();
+    };
+    if (!QTest::qWaitFor(isDrawn, 20'000)) {
+        qWarning("the preview is not drawn");
+    }
+}
+
 const std::vector<Screen>& screens() {
     static const std::vector<Screen> all = {
         {"start",
@@ -394,6 +433,7 @@ const std::vector<Screen>& screens() {
                 user.focus(*start.find("mskDate2"));
                 user.edit(static_cast<MaskedBox&>(*start.find("mskDate2")), "31122");
             }},
+        {"start-recovered", offerRecovered},
         {"notice", [](Program& program,
                        User& user) { user.click(*program.desk.find("frmLodgeStart")->find("cmdMessage")); }},
         {"page1", [](Program& program, User& user) { openPage1(program, user); }},
@@ -414,10 +454,9 @@ const std::vector<Screen>& screens() {
                 P8_ArrayToVar(program);
                 user.focus(*program.desk.show("frmLodgePage8").find("mskDate1"));
             }},
-        {"item3",
-            [](Program& program, User& user) {
-                typeAmounts(program, user, "frmLodgePage3_3", item3Example, fillSchedules);
-            }},
+        {"item3", openItem3},
+        {"item3-large", openItem3, 1.5},
+        {"item3-largest", openItem3, 2},
         {"item4", [](Program& program,
                       User& user) { typeAmounts(program, user, "frmLodgePage3_4", item4Example); }},
         {"help",
@@ -485,6 +524,7 @@ const std::vector<Screen>& screens() {
                 openStored(program, user);
                 showProblems(true);
             }},
+        {"preview", openPreview},
         {"store", openStore},
         {"stored",
             [](Program& program, User& user) {
@@ -520,15 +560,19 @@ QPixmap picture(QWidget& frame) {
     return whole;
 }
 
-void drawScreens(const QDir& folder, const Look& look, const QString& tail, const QByteArray& only) {
+void drawScreens(const QDir& folder, Look& look, const QString& tail, const QByteArray& only) {
+    const double asked = look.zoom();
     for (const QSize size : {QSize(1366, 768), QSize(1180, 640), QSize(2560, 1440)}) {
         for (const Screen& screen : screens()) {
             if (!only.isEmpty() && only != screen.name) {
                 continue;
             }
+            look.setZoom(screen.zoom == 0 ? asked : screen.zoom);
             SilentHost host;
             Program program(host);
             Binder binder(program, look);
+            DesktopPrinter printer(program, binder, look, LODGE_PROGRAM_FOLDER);
+            program.attach(printer);
             Shell shell(program);
             shell.start();
             User user(program.desk);
@@ -545,6 +589,7 @@ void drawScreens(const QDir& folder, const Look& look, const QString& tail, cons
                     .arg(tail));
         }
     }
+    look.setZoom(asked);
 }
 
 void drawBoxes(const QDir& folder, const QString& tail) {
