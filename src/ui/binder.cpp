@@ -57,6 +57,7 @@ Binder::~Binder() {
     for (const auto& [name, view] : views_) {
         delete view;
     }
+    dropKept();
 }
 
 FormView* Binder::viewOf(std::string_view form) const {
@@ -155,6 +156,9 @@ FormView& Binder::viewFor(Form& form) {
     if (FormView* known = viewOf(form.name())) {
         return *known;
     }
+    if (FormView* again = takeUpKept(form)) {
+        return *again;
+    }
     auto* view = new FormView(form, *this);
     views_.emplace(form.name(), view);
     QWidget& root = *view->root();
@@ -166,11 +170,50 @@ FormView& Binder::viewFor(Form& form) {
         placePage(root);
     }
     look_.dress(root);
-    view->paintAgain(); // the places of points depend on the font
     if (auto* dialog = qobject_cast<QDialog*>(&root)) {
         fitDialog(*dialog);
     }
     return *view;
+}
+
+FormView* Binder::takeUpKept(Form& form) {
+    const auto found = kept_.find(form.name());
+    if (found == kept_.end()) {
+        return nullptr;
+    }
+    FormView* view = found->second;
+    kept_.erase(found);
+    if (view->root() == nullptr || !view->takeUp(form)) {
+        delete view;
+        return nullptr;
+    }
+    views_.emplace(form.name(), view);
+    PageScroll::around(*view->root())->setUpdatesEnabled(true);
+    return view;
+}
+
+/// Keeps the widgets of a page that is left for its next visit; false for a form that comes up once.
+bool Binder::keep(FormView& view) {
+    const std::string& name = view.form()->name();
+    PageScroll* scroll = view.root() == nullptr ? nullptr : PageScroll::around(*view.root());
+    const bool comesAgain =
+        name == frmLodgeChoose::formName
+        || std::ranges::any_of(pageTable(), [&](const PageRow& row) { return name == row.form; });
+    if (scroll == nullptr || !comesAgain) {
+        return false;
+    }
+    view.letGo();
+    kept_.emplace(name, &view);
+    // Whenever the stack turns to another page it goes through all widgets that may draw themselves.
+    scroll->setUpdatesEnabled(false);
+    return true;
+}
+
+void Binder::dropKept() {
+    for (const auto& [name, view] : kept_) {
+        delete view;
+    }
+    kept_.clear();
 }
 
 void Binder::fitDialog(QDialog& dialog) {
@@ -192,10 +235,10 @@ void Binder::dressAgain() {
     if (frame_ == nullptr) {
         return;
     }
+    dropKept();           // the next visit makes them anew, so that only what is on screen need change
     look_.dress(*frame_); // its pages and dialogs lie in it
     statusLine_->showZoom(look_.zoom());
     for (const auto& [name, view] : views_) {
-        view->paintAgain();
         if (auto* dialog = qobject_cast<QDialog*>(view->root())) {
             fitDialog(*dialog);
         }
@@ -372,9 +415,12 @@ void Binder::formUnloaded(Form& form) {
         return;
     }
     tellStatus();
-    // The widgets go when the event that unloaded the form has ended: it may have come from one of them.
     FormView* view = found->second;
     views_.erase(found);
+    if (keep(*view)) {
+        return;
+    }
+    // The widgets go when the event that unloaded the form has ended: it may have come from one of them.
     view->letGo();
     view->setParent(this);
     view->deleteLater();

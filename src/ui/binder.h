@@ -78,6 +78,9 @@ class Binder : public QObject, public DeskObserver, public UserDoor, public Wait
 
   private:
     FormView& viewFor(Form& form);
+    FormView* takeUpKept(Form& form);
+    bool keep(FormView& view);
+    void dropKept();
     void dressAgain();
     static void fitDialog(QDialog& dialog);
     void tellStatus();
@@ -100,6 +103,7 @@ class Binder : public QObject, public DeskObserver, public UserDoor, public Wait
     DeskClock clock_;
     User user_;
     std::map<std::string, FormView*, std::less<>> views_;
+    std::map<std::string, FormView*, std::less<>> kept_; // of pages that were left: their widgets serve again
     QPointer<QMainWindow> frame_;
     QPointer<QStackedWidget> pages_;
     std::vector<FormView*> shownPages_; // bottom to top

@@ -18,7 +18,7 @@ constexpr int preferredCharacters = 80;
 bool TextLabel::isPlain() const {
     const bool plain =
         textFormat() == Qt::PlainText || (textFormat() == Qt::AutoText && !Qt::mightBeRichText(text()));
-    return plain && !text().isEmpty() && (buddy() == nullptr || !text().contains(QLatin1Char('&')))
+    return plain && pixmap().isNull() && (buddy() == nullptr || !text().contains(QLatin1Char('&')))
            && !textInteractionFlags().testFlag(Qt::TextSelectableByMouse);
 }
 
@@ -39,6 +39,9 @@ QSize TextLabel::around() const {
 QSize TextLabel::textIn(int width) const {
     const int flags = wordWrap() ? Qt::TextWordWrap : 0;
     const auto measured = [&](int room) {
+        if (text_.isEmpty()) { // what it keeps free for a text to come
+            return QSize(fontMetrics().averageCharWidth(), fontMetrics().lineSpacing());
+        }
         return fontMetrics().boundingRect(QRect(0, 0, room, widest), flags, text_).size();
     };
     if (text_ != text() || font_ != font() || flags_ != flags) {
