@@ -1,10 +1,16 @@
-"""Widths of Laksaman texts, read from the font itself, so that a drawing can refuse a caption that does not fit."""
+"""Widths and ink of Laksaman texts, read from the font itself, so that a drawing can refuse a caption that does not fit
+or whose marks touch what stands above or below them."""
 import functools
 import pathlib
 import struct
 import subprocess
 
 FAMILY = 'Laksaman'
+
+# A tone mark is made to stand above a vowel mark; over a bare letter the font lowers it by this, in parts of the size.
+UPPER_VOWELS = 'ัิีึืํ็'
+TONES = '่้๊๋์'
+LOWERED = .27
 
 
 class Face:
@@ -17,6 +23,9 @@ class Face:
             tag, _, offset, _ = struct.unpack_from('>4sLLL', self.data, 12 + 16 * i)
             tables[tag.decode()] = offset
         self.unitsPerEm = struct.unpack_from('>H', self.data, tables['head'] + 18)[0]
+        self.wideOffsets = struct.unpack_from('>h', self.data, tables['head'] + 50)[0]
+        self.offsets = tables['loca']
+        self.outlines = tables['glyf']
         self.metricCount = struct.unpack_from('>H', self.data, tables['hhea'] + 34)[0]
         self.metrics = tables['hmtx']
         self.glyphs = self._readMap(tables['cmap'])
@@ -52,6 +61,18 @@ class Face:
         glyph = min(self.glyphs.get(ord(character), 0), self.metricCount - 1)
         return struct.unpack_from('>H', self.data, self.metrics + 4 * glyph)[0] / self.unitsPerEm
 
+    @functools.cache
+    def ink(self, character):
+        """The box around a letter's ink (left, bottom, right, top) from its place on the base line; None for a blank."""
+        glyph = self.glyphs.get(ord(character), 0)
+        if self.wideOffsets:
+            start, end = struct.unpack_from('>LL', self.data, self.offsets + 4 * glyph)
+        else:
+            start, end = (2 * half for half in struct.unpack_from('>HH', self.data, self.offsets + 2 * glyph))
+        if start == end:
+            return None
+        return tuple(unit / self.unitsPerEm for unit in struct.unpack_from('>4h', self.data, self.outlines + start + 2))
+
 
 @functools.cache
 def face(bold):
@@ -67,3 +88,22 @@ def face(bold):
 def width(text, size, bold=False):
     """The width of a text in the unit of its size; marks above and below a letter take none."""
     return sum(face(bold).advance(character) for character in text) * size
+
+
+def aboveVowel(text, place):
+    """Whether the tone mark there stands above a vowel mark; the ring of a sara am is written behind the tone."""
+    return text[place - 1] in UPPER_VOWELS or text[place + 1:place + 2] == 'ำ'
+
+
+def ink(text, size, bold=False):
+    """The box around each letter and mark of a text that begins at 0 on the base line: (left, top, right, bottom),
+    downwards as on the page."""
+    cut = face(bold)
+    x = 0
+    for place, character in enumerate(text):
+        box = cut.ink(character)
+        if box:
+            left, bottom, right, top = box
+            lowered = LOWERED if character in TONES and not aboveVowel(text, place) else 0
+            yield (x + left) * size, (lowered - top) * size, (x + right) * size, (lowered - bottom) * size
+        x += cut.advance(character)

@@ -79,10 +79,10 @@ def statuses(page, y):
     with page.group('status'):
         page.band(LEFT, y, WIDTH, 'สถานภาพของบริษัทหรือห้างหุ้นส่วนนิติบุคคล', 5.6)
         for column in range(2):
-            line = y + 9.6
+            line = y + 9.5
             for name, caption in STATUSES[column * 9:column * 9 + 9]:
-                page.choice(name, LEFT + 3 + column * 91, line, caption, 3.1, pitch=3.9, within=83)
-                line += 4.7 + 3.9 * caption.count('|')
+                page.choice(name, LEFT + 3 + column * 91, line, caption, 3.1, pitch=4.15, within=83)
+                line += 4.65 + 4.15 * caption.count('|')
     with page.group('columns'):
         y += 56.2
         page.line(LEFT, y, RIGHT, y)
@@ -97,7 +97,7 @@ def businesses(page, y):
         page.band(LEFT, y, WIDTH - 34, 'กิจการที่ประกอบ', 5.6)
         page.band(RIGHT - 34, y, 34, 'ISIC Code', 5.6, 3.4)
         for n in range(3):
-            line = y + 11.1 + n * 7
+            line = y + 10.9 + n * 6.7
             page.text(LEFT + 3, line, f'{n + 1}.')
             page.written(f'lblFld{23 + 2 * n}', LEFT + 9, line, WIDTH - 46, height=6.2)
             page.comb(f'lblFld{24 + 2 * n}', RIGHT - 31, line - 4.6, (6,), 4.6, 6)
@@ -107,20 +107,21 @@ def tax(page, y):
     with page.group('tax'):
         page.band(LEFT, y, 93, 'ภาษีที่ต้องชำระ', 5.6)
         page.band(HALF, y, 93, 'การขอคืนเงินภาษี', 5.6)
-        page.line(HALF, y, HALF, y + 20.4)
+        page.line(HALF, y, HALF, y + 19.8)
         for n, (name, caption) in enumerate((('lblFld29', 'ชำระเพิ่มเติม'), ('lblFld30', 'ชำระไว้เกิน'))):
-            page.text(LEFT + 3, y + 11.2 + n * 7, caption)
-            page.moneyBox(name, LEFT + 30, y + 7 + n * 7, 50, 5.8, 4)
-            page.choice(f'Cash_Refund.{n + 1}', HALF + 3, y + 11.2 + n * 7, REFUND[n])
+            base = y + 11 + n * 6.6
+            page.text(LEFT + 3, base, caption)
+            page.moneyBox(name, LEFT + 30, base - 4.2, 50, 5.8, 4)
+            page.choice(f'Cash_Refund.{n + 1}', HALF + 3, base, REFUND[n])
 
 
 def audit(page, y):
     with page.group('audit-report'):
         page.band(LEFT, y, 125, 'รายงานของผู้สอบบัญชีรับอนุญาต', 5.6)
         page.band(LEFT + 125, y, 61, 'รายงานการตรวจสอบและรับรองบัญชี', 5.6)
-        page.line(LEFT + 125, y, LEFT + 125, y + 12)
+        page.line(LEFT + 125, y, LEFT + 125, y + 11.4)
         for n, (x, caption) in enumerate(AUDIT):
-            page.choice(f'Audit.{n + 1}', LEFT + x, y + 10.2, caption, 3.2, 4.6)
+            page.choice(f'Audit.{n + 1}', LEFT + x, y + 9.9, caption, 3.2, 4.6)
 
 
 def accountants(page, y):
@@ -131,19 +132,20 @@ def accountants(page, y):
     with page.group('accountants'):
         for x, caption, number, name, office in people:
             page.band(x, y, 93, caption, 5.6)
-            page.text(x + 3, y + 10.8, 'เลขประจำตัว', 3.2)
-            page.comb(number, x + 25, y + 6.8, cell=4.35, height=5.6)
-            page.text(x + 3, y + 17.4, 'ชื่อ', 3.2)
-            page.written(name, x + 25, y + 17.4, 65, height=6)
-            page.text(x + 3, y + 23.3, 'สำนักงาน', 3.2)
-            page.comb(office, x + 25, y + 19.3, cell=4.35, height=5.6)
-        page.text(LEFT + 3, y + 31, 'เลขทะเบียน', 3.2)
-        page.written('lblFld35', LEFT + 25, y + 31, 21, 'middle', height=5.8)
-        page.text(LEFT + 48, y + 31, 'วันที่ในรายงาน', 3.2)
-        page.written('lblFld37', LEFT + 69, y + 31, 21, 'middle', height=5.8)
-        page.text(HALF + 3, y + 31, 'เว็บไซต์', 3.2)
-        page.written('Website', HALF + 25, y + 31, 65, height=5.8)
-        page.line(HALF, y, HALF, y + 33.2)
+            page.text(x + 3, y + 10.6, 'เลขประจำตัว', 3.2)
+            page.comb(number, x + 25, y + 6.5, cell=4.35, height=5.6)
+            page.text(x + 3, y + 16.3, 'ชื่อ', 3.2)
+            # A name may have 150 letters besides its title.
+            page.written(name, x + 11, y + 21.5, 79, size=3.4, height=10.4, lines=2)
+            page.text(x + 3, y + 27.3, 'สำนักงาน', 3.2)
+            page.comb(office, x + 25, y + 23.3, cell=4.35, height=5.6)
+        page.text(LEFT + 3, y + 33.6, 'เลขทะเบียน', 3.2)
+        page.written('lblFld35', LEFT + 25, y + 33.6, 21, 'middle', height=5.8)
+        page.text(LEFT + 48, y + 33.6, 'วันที่ในรายงาน', 3.2)
+        page.written('lblFld37', LEFT + 69, y + 33.6, 21, 'middle', height=5.8)
+        page.text(HALF + 3, y + 33.6, 'เว็บไซต์', 3.2)
+        page.written('Website', HALF + 25, y + 33.6, 65, height=5.8)
+        page.line(HALF, y, HALF, y + 35.6)
 
 
 def former(page, y):
@@ -191,9 +193,9 @@ def main():
     filer(page, 33)
     statuses(page, 62.4)
     businesses(page, 125.6)
-    tax(page, 153)
-    audit(page, 173.4)
-    accountants(page, 185.4)
+    tax(page, 151.8)
+    audit(page, 171.6)
+    accountants(page, 183)
     former(page, 218.6)
     signatures(page, 255.9)
     page.foot(1)

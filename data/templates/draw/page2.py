@@ -2,7 +2,7 @@
 """Page 2: item 1, the promoted investment; item 2, the tax; and the head of item 3, down to line 14."""
 import lines
 import metrics
-from paper import BAND, BOTTOM, FORM, FORM_TITLE, HAIR, LEFT, RIGHT, WIDTH, Ledger, Page
+from paper import BAND, BOTTOM, CAPTION_PITCH, FORM, FORM_TITLE, HAIR, LEFT, RIGHT, WIDTH, Ledger, Page
 
 # Where the amounts of item 2 stand, in line with the third column of item 3 below them.
 MONEY = 40
@@ -44,6 +44,9 @@ DEDUCTIONS = (
 # The lines of item 3 that stand on this page: from the income to the total of line 14.
 ITEM3 = lines.ITEM3_HEAD
 
+HEAD = 9.5
+SIZE = 3
+
 
 def investment(page, y):
     years, begin, end = LEFT + 108, LEFT + 126, LEFT + 156
@@ -74,7 +77,6 @@ def investment(page, y):
         for edge in (years, begin, end):
             page.line(edge, y, edge, y + 27)
         page.text(LEFT + 3, y + 31.4, '4.  กรณีบริษัทฯ ประกอบกิจการอื่นที่ไม่ได้รับการส่งเสริมการลงทุนด้วย (ระบุ)', 3.3)
-        page.dots(LEFT + 8, RIGHT - 3, y + 36.9)
         page.written('lblFld1_21', LEFT + 8, y + 41.6, WIDTH - 11, height=10.6, lines=2)
     return y + 44.4
 
@@ -109,11 +111,11 @@ def lineTwo(page, y):
         page.text(LEFT + 84, y + 4, 'อัตราที่เลือก', 3.1)
         page.written('lblFld2_22', LEFT + 101, y + 4, 42, 'middle', 3.4, 4.8)
         for x, row, name, caption in RATES:
-            page.choice(name, LEFT + 15 + x, y + 8.7 + row * 4.6, caption, 3)
-        page.choice('lblFld2_05', LEFT + 9, y + 22.9, '(3) กรณีได้รับอนุมัติจากกรมภาษีกลางให้เสียภาษีจากยอดรายรับ', 3.2)
-        page.text(EDGE - 3, y + 22.9, 'ภาษีที่คำนวณได้', 3.2, anchor='end')
-        amount(page, 'lblFld2_11', y + 19.2, 5.4)
-        return rowEnd(page, y + 24.9)
+            page.choice(name, LEFT + 15 + x, y + 9.2 + row * 4.6, caption, 3)
+        page.choice('lblFld2_05', LEFT + 9, y + 23.4, '(3) กรณีได้รับอนุมัติจากกรมภาษีกลางให้เสียภาษีจากยอดรายรับ', 3.2)
+        page.text(EDGE - 3, y + 23.4, 'ภาษีที่คำนวณได้', 3.2, anchor='end')
+        amount(page, 'lblFld2_11', y + 19.7, 5.4)
+        return rowEnd(page, y + 25.4)
 
 
 def lineThree(page, y):
@@ -152,17 +154,20 @@ def linesFourToSix(page, y):
 
 def broken(caption, room):
     """A caption whose origin in another item moves onto a line of its own where both do not fit."""
-    return caption if metrics.width(caption, 3) <= room or '|' in caption else caption.replace(' (จาก', '|(จาก')
+    return caption if metrics.width(caption, SIZE) <= room or '|' in caption else caption.replace(' (จาก', '|(จาก')
 
 
 def itemThree(page, y):
     with page.group('item-3'):
-        table = Ledger(page, y, columnWidth=33.6, rowHeight=5.6, size=3, moneySize=3.2, numberWidth=7)
+        captions = [broken(line.caption, 76) for line in ITEM3]
+        further = sum(caption.count('|') for caption in captions) * SIZE * CAPTION_PITCH
+        row = (BOTTOM - y - HEAD - further) / len(ITEM3)
+        table = Ledger(page, y, columnWidth=33.6, rowHeight=row, size=SIZE, moneySize=3.2, numberWidth=7)
         table.heading('รายการที่ 3   กำไรสุทธิหรือขาดทุนสุทธิ',
-                      ('ช่อง 1|ยกเว้นภาษีเงินได้', 'ช่อง 2|ต้องเสียภาษีเงินได้', 'รวม'), 9.54)
-        for line in ITEM3:
+                      ('ช่อง 1|ยกเว้นภาษีเงินได้', 'ช่อง 2|ต้องเสียภาษีเงินได้', 'รวม'), HEAD)
+        for line, caption in zip(ITEM3, captions):
             top = table.y
-            table.line(line.number, broken(line.caption, 76), line.names, line.computed)
+            table.line(line.number, caption, line.names, line.computed)
             if line.number in lines.ITEM3_TICKS:
                 profit, loss, after = lines.ITEM3_TICKS[line.number]
                 page.choice(profit[0], LEFT + 7, top + 4.25, profit[1], 3)
@@ -181,9 +186,7 @@ def main():
     y = lineThree(page, y)
     y = linesFourToSix(page, y)
     page.line(EDGE, top, EDGE, y)
-    y = itemThree(page, y)
-    if y > BOTTOM:
-        raise SystemExit(f'page 2 is {y - BOTTOM:.1f} mm too long')
+    itemThree(page, y)
     page.foot(2)
     page.save()
 

@@ -2,10 +2,9 @@
 """Draws page 6: item 10 whole, and item 11 with its earlier accounting periods."""
 import lines
 import schedule
-from paper import BAND, HAIR, OFFICE, baseIn
-from schedule import CAPTION_SIZE, COLUMN_WIDTH, MONEY_SIZE, TITLE_SIZE
+from paper import BAND, HAIR, OFFICE, baseIn, headingBaseIn
+from schedule import CAPTION_SIZE, COLUMN_WIDTH, HEAD, MONEY_SIZE, TITLE_SIZE
 
-TITLE = 5.1
 LEVEL = 4.3  # of the two levels of the column heads
 
 GROUPS = ('กิจการที่ได้รับยกเว้น/สิทธิประโยชน์', 'กิจการที่ต้องเสียภาษีเงินได้')
@@ -35,9 +34,9 @@ class Item11:
 
     def head(self):
         page = self.page
-        page.rect(page.left, self.y, page.right - page.left, TITLE + 2 * LEVEL, .25, BAND)
-        page.text(page.left + 2, baseIn(self.y, TITLE, TITLE_SIZE), lines.title(11), TITLE_SIZE, True)
-        self.y += TITLE
+        page.rect(page.left, self.y, page.right - page.left, HEAD + 2 * LEVEL, .25, BAND)
+        page.text(page.left + 2, headingBaseIn(self.y, HEAD, TITLE_SIZE), lines.title(11), TITLE_SIZE, True)
+        self.y += HEAD
         self.top = self.y
         page.line(page.left, self.y, page.right, self.y)
         self.caption((page.left + NUMBER + self.results[0]) / 2, PERIOD, LEVEL)
@@ -87,7 +86,7 @@ class Item11:
 
 def main():
     page, y = schedule.open_(6)
-    below = schedule.Below(lines.ITEM11_ROWS + 1, TITLE + 2 * LEVEL)
+    below = schedule.Below(lines.ITEM11_ROWS + 1, HEAD + 2 * LEVEL)
     row, y = schedule.fill(page, y, (schedule.Table(10, lines.ITEM10),), below=below)
     with page.group('item11'):
         table = Item11(page, y, row)

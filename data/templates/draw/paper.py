@@ -39,6 +39,13 @@ DESCENT = .18
 # Captions may touch a slot's edge by this much: slots leave some air of their own.
 SLACK = .15
 
+# Between the marks of one line of a caption and those of the next there is at least so much white.
+AIR = .2
+
+# From one line to the next in parts of the size, for a heading and for the caption of a table's line.
+TITLE_PITCH = 1.4
+CAPTION_PITCH = 1.35
+
 FOLDER = pathlib.Path(__file__).resolve().parent.parent
 
 
@@ -61,6 +68,8 @@ class Page:
         self.depth = 1
         self.ids = set()
         self.texts = []   # (left, top, right, bottom, caption)
+        self.inks = []    # for each text: the number of its caption, its text, the boxes of its letters
+        self.dotted = []  # (x1, x2, y)
         self.places = []  # (left, top, right, bottom, slot)
         self.rules = []   # (x1, y1, x2, y2)
 
@@ -87,6 +96,7 @@ class Page:
     def text(self, x, y, caption, size=3.4, bold=False, anchor='start', colour=INK, pitch=None, within=None):
         """A caption on the base line y; `|` starts a further line, `pitch` below. With `within`, the text is made
         smaller until it is no wider than that, down to 2.9 mm, the smallest that reads well on paper."""
+        number = len(self.texts)
         for n, line in enumerate(caption.split('|')):
             lineSize = self._fitted(line, size, bold, within)
             style = ' font-weight="700"' if bold else ''
@@ -98,6 +108,8 @@ class Page:
             wide = metrics.width(line, lineSize, bold)
             left = {'start': x, 'middle': x - wide / 2, 'end': x - wide}[anchor]
             self.texts.append((left, base - ASCENT * lineSize, left + wide, base + DESCENT * lineSize, line))
+            self.inks.append((number, line, [(left + x1, base + y1, left + x2, base + y2)
+                                             for x1, y1, x2, y2 in metrics.ink(line, lineSize, bold)]))
 
     def _fitted(self, line, size, bold, within):
         if not within:
@@ -126,6 +138,7 @@ class Page:
         """The dotted line that a hand, or a value, writes on."""
         self._put(f'<path d="M{num(x1)} {num(y)}L{num(x2)} {num(y)}" fill="none" stroke="{LINE}" stroke-width="0.2" '
                   'stroke-dasharray="0.2 0.9"/>')
+        self.dotted.append((x1, x2, y))
 
     def circle(self, x, y, radius, stroke=.3, colour=LINE, dashes=None):
         dash = f' stroke-dasharray="{dashes}"' if dashes else ''
@@ -138,7 +151,7 @@ class Page:
     def band(self, x, y, width, caption, height=6, size=3.6):
         """The shaded head of a part."""
         self.rect(x, y, width, height, .25, BAND)
-        self.text(x + 2, y + height / 2 + size * .36, caption, size, True, within=width - 4)
+        self.text(x + 2, baseIn(y, height, size), caption, size, True, within=width - 4)
 
     # --- Slots ---
 
@@ -164,8 +177,9 @@ class Page:
         self.text(x + width + 2, y + height / 2 + 1.2, 'บาท', 3.4)
 
     def written(self, name, x, y, width, align='start', size=None, height=6, lines=1):
-        """A value on a dotted line; y is the base line of the caption before it."""
-        self.dots(x, x + width, y + .8)
+        """A value on a dotted line, or on several of which y is the last; y is the base line of the caption before it."""
+        for line in reversed(range(lines)):
+            self.dots(x, x + width, y + .8 - line * height / lines)
         self.slot(name, x, y + 1.4 - height, width, height, 'text', align, size, lines)
 
     def box(self, name, x, y, size=3.2):
@@ -224,7 +238,7 @@ class Page:
             self.line(LEFT, TOP + height, RIGHT, TOP + height, .5)
         return TOP + height
 
-    def slimHead(self, number, height=7.5):
+    def slimHead(self, number, height=7):
         """The heading in one line, for a page that needs its height for lines of figures. Answers where it ends."""
         base = self.top + height / 2 + 1.5
         with self.group('heading'):
@@ -285,6 +299,7 @@ class Page:
             for rule in self.rules:
                 if crosses(rule, one):
                     yield f'"{one[4]}" is crossed by the rule {", ".join(map(num, rule))}'
+        yield from self._touches()
         for i, one in enumerate(self.places):
             if (one[0] < self.left - SLACK or one[2] > self.right + SLACK
                     or one[1] < self.top - SLACK or one[3] > self.bottom + SLACK):
@@ -295,6 +310,18 @@ class Page:
             for rule in self.rules:
                 if crosses(rule, one):
                     yield f'the slot {one[4]} is crossed by the rule {", ".join(map(num, rule))}'
+
+    def _touches(self):
+        """Marks that run into those of another caption, that come near the next line of their own, or that stand on
+        a dotted line."""
+        for i, (number, text, ink) in enumerate(self.inks):
+            for otherNumber, otherText, otherInk in self.inks[i + 1:]:
+                air = AIR if otherNumber == number else -SLACK
+                if any(near(letter, other, air) for letter in ink for other in otherInk):
+                    yield f'marks of "{text}" touch "{otherText}"'
+            for x1, x2, y in self.dotted:
+                if any(near(letter, (x1, y, x2, y), .1) for letter in ink):
+                    yield f'marks of "{text}" touch the dotted line at {num(y)}'
 
     def save(self):
         if self.framed:
@@ -320,6 +347,12 @@ def meet(one, other):
             and one[1] + SLACK < other[3] and other[1] + SLACK < one[3])
 
 
+def near(one, other, air):
+    """Whether two boxes stand above each other with less white between them than that."""
+    return (one[0] < other[2] and other[0] < one[2]
+            and one[1] - air < other[3] and other[1] - air < one[3])
+
+
 def crosses(rule, box):
     """Whether an upright or level rule runs through the inside of a box."""
     x1, y1, x2, y2 = rule
@@ -330,6 +363,11 @@ def crosses(rule, box):
 def baseIn(y, height, size):
     """The base line of a caption in the middle of a row: room for two marks above a letter and for one below."""
     return y + (height + size * .8) / 2
+
+
+def headingBaseIn(y, height, size):
+    """The base line of a heading between two rules: the highest mark above as far from its rule as the lowest below."""
+    return y + height / 2 + size * .45
 
 
 class Ledger:
@@ -354,8 +392,8 @@ class Ledger:
     def heading(self, caption, captions, height=6, size=3, titleSize=3.6):
         """The shaded first row; `|` starts a further line in a column's caption."""
         self.page.rect(self.x, self.y, self.width, height, .25, BAND)
-        pitch = titleSize * 1.15
-        first = self.y + height / 2 + titleSize * .38 - caption.count('|') * pitch / 2
+        pitch = titleSize * TITLE_PITCH
+        first = headingBaseIn(self.y, height - caption.count('|') * pitch, titleSize)
         self.page.text(self.x + 2, first, caption, titleSize, True, pitch=pitch, within=self.edges[0] - self.x - 4)
         for left, column in zip(self.edges, captions):
             count = column.count('|') + 1
@@ -367,17 +405,17 @@ class Ledger:
 
     def line(self, number, caption, names, computed=False, indent=0, height=None, bold=False):
         """One line; `names` has a slot name for each column, None where the column takes no value and is closed."""
-        height = height or self.rowHeight + caption.count('|') * self.size * 1.24
+        height = height or self.rowHeight + caption.count('|') * self.size * CAPTION_PITCH
         bold = bold or computed
         if computed:
             self.page.rect(self.x, self.y, self.width, height, 0, BAND)
         # A line of several caption lines carries its amounts beside the last one, as the paper forms do.
         last = baseIn(self.y + height - self.rowHeight, self.rowHeight, self.size)
-        first = last - caption.count('|') * self.size * 1.24
+        first = last - caption.count('|') * self.size * CAPTION_PITCH
         if number:
             self.page.text(self.x + self.inset, first, number, self.size, bold)
         left = self.x + self.numberWidth + indent
-        self.page.text(left, first, caption, self.size, bold, pitch=self.size * 1.24,
+        self.page.text(left, first, caption, self.size, bold, pitch=self.size * CAPTION_PITCH,
                        within=self.edges[0] - left - 1)
         for edge, name in zip(self.edges, names):
             if name:

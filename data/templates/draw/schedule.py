@@ -2,20 +2,19 @@
 from typing import NamedTuple
 
 from lines import title
-from paper import DENSE, FORM, FORM_TITLE, Ledger, Page
+from paper import CAPTION_PITCH, DENSE, FORM, FORM_TITLE, TITLE_PITCH, Ledger, Page
 
 COLUMNS = ('ช่อง 1|ได้รับยกเว้นภาษีเงินได้', 'ช่อง 2|ต้องเสียภาษีเงินได้', 'รวม|บาท')
 COLUMNS_AGAIN = ('ช่อง 1', 'ช่อง 2', 'รวม')
 
-HEAD = 5.1
-TALL_HEAD = 8.6  # holds two lines
-TITLE_SIZE = 3.2
+HEAD = 5.4
+TALL_HEAD = 8.6  # holds two lines of a column's caption
+TITLE_SIZE = 3.1
 
 # Wide enough for (9,999,999,999,999.99) at the size of the amounts, with the air that a slot leaves at its edges.
 COLUMN_WIDTH = 33.5
 MONEY_SIZE = 3.2
 CAPTION_SIZE = 2.9
-PITCH = 1.24  # from one line of a caption to the next, in parts of its size
 NUMBER_WIDTH = 2.21  # in parts of the caption's size
 PART_INDENT = 3
 
@@ -30,7 +29,8 @@ class Table:
         self.draw = draw or drawLine
 
     def headHeight(self, first):
-        return TALL_HEAD if first or '|' in self.caption else HEAD
+        height = TALL_HEAD if first else HEAD
+        return max(height, HEAD + self.caption.count('|') * TITLE_PITCH * TITLE_SIZE)
 
     def furtherCaptionLines(self):
         return sum(line.caption.count('|') for line in self.lines)
@@ -57,7 +57,7 @@ class Below(NamedTuple):
 def fill(page, y, tables, size=CAPTION_SIZE, below=Below()):
     """Draws the tables from y downwards, with rows as high as the page allows; answers that height, and where the
     tables end."""
-    fixed = below.height + sum(table.headHeight(table is tables[0]) + size * PITCH * table.furtherCaptionLines()
+    fixed = below.height + sum(table.headHeight(table is tables[0]) + size * CAPTION_PITCH * table.furtherCaptionLines()
                                for table in tables)
     row = (page.bottom - y - fixed) / (sum(len(table.lines) for table in tables) + below.rows)
     for table in tables:

@@ -1,11 +1,13 @@
 // The ten templates of the form against the map of their fields.
 #include "paper_kit.h"
 #include "print/field_map.h"
+#include "values/text.h"
 
 #include <gmock/gmock.h>
 
 #include <algorithm>
 #include <set>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -91,6 +93,46 @@ TEST_P(FormTemplate, TheTextOfAFilledPageHoldsEveryValue) {
 INSTANTIATE_TEST_SUITE_P(OfTheForm, FormTemplate, ::testing::Range(0, 10), [](const auto& info) {
     return std::string(reportTemplates()[static_cast<std::size_t>(info.param)].name);
 });
+
+class PersonOnPageOne : public ::testing::TestWithParam<const char*> {
+  protected:
+    const std::shared_ptr<const DrawnTemplate> form =
+        TemplateShelf().take(LODGE_SOURCE_DIR "/data/templates/rptLodgePage1.svg");
+    const Slot& slot = form->slotsOf(GetParam()).front();
+
+    /// A page with nothing but this slot.
+    [[nodiscard]] std::shared_ptr<const DrawnTemplate> alone() const {
+        std::ostringstream rect;
+        rect << "<rect id=\"" << slot.field << "\" x=\"" << slot.box.x << "\" y=\"" << slot.box.y
+             << "\" width=\"" << slot.box.width << "\" height=\"" << slot.box.height << "\" data-size=\""
+             << slot.size << "\" data-lines=\"" << slot.lines << "\" fill=\"none\"/>";
+        return templateOf(rect.str());
+    }
+};
+
+/// A text without blanks and line ends: a name that stands on two lines is still one name.
+std::string joined(std::string text) {
+    std::erase_if(
+        text, [](char character) { return character == ' ' || character == '\n' || character == '\f'; });
+    return text;
+}
+
+TEST_P(PersonOnPageOne, ANameAsLongAsItsBoxesTakeIsPrintedWhole) {
+    const std::string name = "ประเสริฐศักดิ์วัฒนานุกูลกิจเจริญรุ่งเรืองไพศาลธนากุลเกียรติ"
+                             "อัครวงศ์ศิริพัฒนพงษ์พิพัฒน์สุวรรณภูมิรัตน";
+    const std::string surname = "อัครวงศ์ไพศาลธนากุลเกียรติศิริพัฒนพงษ์พิพัฒน์สุวรร";
+    ASSERT_EQ(textLength(name), 100U);
+    ASSERT_EQ(textLength(surname), 50U);
+    const std::string value = "นาย" + name + "  " + surname;
+    EXPECT_EQ(joined(textOf(pdfOf({.form = alone(), .values = {{GetParam(), value}}}))), joined(value));
+}
+
+TEST_P(PersonOnPageOne, ALineHasTheHeightOfALetterWithMarksAboveAndBelow) {
+    // A name that is not long keeps the size of its slot: 1.0 above the line and 0.36 below, in parts of it.
+    EXPECT_GE(slot.box.height / slot.lines, 1.36 * slot.size);
+}
+
+INSTANTIATE_TEST_SUITE_P(OfTheForm, PersonOnPageOne, ::testing::Values("lblFld32", "lblFld39"));
 
 TEST(FormTemplates, TenFilledPagesAreASmallDocument) {
     PdfDocument document;
