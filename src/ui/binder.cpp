@@ -264,10 +264,10 @@ void Binder::placeFrame(QMainWindow& frame) {
 }
 
 void Binder::placeProblems(QMainWindow& frame) {
-    auto* pages = new PageList(program_, *problems_, &frame);
-    frame.addDockWidget(Qt::LeftDockWidgetArea, pages);
-    connect(pages, &PageList::chosen, this, [this](std::int16_t page) { goToPage(page, {}); });
-    connect(pages, &PageList::left, this, &Binder::settleSoon);
+    pageList_ = new PageList(program_, *problems_, &frame);
+    frame.addDockWidget(Qt::LeftDockWidgetArea, pageList_);
+    connect(pageList_, &PageList::chosen, this, [this](std::int16_t page) { goToPage(page, {}); });
+    connect(pageList_, &PageList::left, this, &Binder::settleSoon);
     auto* button = new ProblemButton(*problems_);
     frame.statusBar()->addPermanentWidget(button);
     connect(button, &QToolButton::clicked, this, &Binder::toggleProblems);
@@ -435,6 +435,9 @@ void Binder::showTopPage() {
     }
     QWidget* page = shownPages_.empty() ? pages_->widget(0) : shownPages_.back()->root();
     PageScroll* scroll = PageScroll::around(*page);
+    // The list comes or goes first, so that the page is laid out once, in the room that it will have.
+    pageList_->takeRoom();
+    frame_->layout()->activate();
     pages_->setCurrentWidget(scroll == nullptr ? page : scroll);
     if (status_ != nullptr && statusPage_ != page) {
         frame_->statusBar()->removeWidget(status_);

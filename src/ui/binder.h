@@ -27,6 +27,7 @@ namespace lodge {
 class KeyCommands;
 class Look;
 class StatusLine;
+class PageList;
 class ProblemDock;
 class ProblemWatch;
 struct Problem;
@@ -113,6 +114,7 @@ class Binder : public QObject, public DeskObserver, public UserDoor, public Wait
     QPointer<StatusLine> statusLine_;
     std::unique_ptr<ProblemWatch> problems_;
     QPointer<ProblemDock> problemDock_;
+    QPointer<PageList> pageList_;
     int waits_ = 0;
     bool boxAnswered_ = false; // a box came up in what the person did last
     QTimer settling_;          // fires once everything that is under way has ended

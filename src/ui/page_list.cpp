@@ -206,10 +206,10 @@ void PageList::refresh() {
         captions_.at(i)->setText(captions.at(i));
         figures_.at(i)->setText(QString::fromStdString(formatMoneyText(figures.at(i))));
     }
-    showWhereThereIsRoom();
+    takeRoom();
 }
 
-void PageList::showWhereThereIsRoom() {
+void PageList::takeRoom() {
     const bool onPage = watch_.hasReturn() && findPage(program_.state.intPageCur) != nullptr;
     setVisible(onPage && parentWidget()->width() - zoomed(listWidth) >= zoomed(pageWidth));
 }
@@ -228,7 +228,7 @@ void PageList::choose(int row) {
 
 bool PageList::eventFilter(QObject* watched, QEvent* event) {
     if (watched == parentWidget() && event->type() == QEvent::Resize) {
-        showWhereThereIsRoom();
+        takeRoom();
     }
     if (watched != list_ || event->type() != QEvent::KeyPress) {
         return QDockWidget::eventFilter(watched, event);

@@ -25,6 +25,8 @@ class PageList : public QDockWidget {
     PageList(const Program& program, const ProblemWatch& watch, QWidget* parent);
 
     [[nodiscard]] QListView* list() const { return list_; }
+    /// Comes up or goes as the page on screen wants it.
+    void takeRoom();
 
   signals:
     /// The person wants to go to that page.
@@ -38,7 +40,6 @@ class PageList : public QDockWidget {
   private:
     [[nodiscard]] QWidget* makeWatchBar();
     void refresh();
-    void showWhereThereIsRoom();
     void choose(int row);
 
     const Program& program_;
