@@ -9,7 +9,6 @@
 #include "ui/page_scroll.h"
 #include "ui/problem_dock.h"
 #include "ui/problem_watch.h"
-#include "ui/sheet_title.h"
 #include "ui/status_line.h"
 #include "ui/type.h"
 
@@ -58,6 +57,7 @@ Binder::~Binder() {
     for (const auto& [name, view] : views_) {
         delete view;
     }
+    dropKept();
 }
 
 FormView* Binder::viewOf(std::string_view form) const {
@@ -156,6 +156,9 @@ FormView& Binder::viewFor(Form& form) {
     if (FormView* known = viewOf(form.name())) {
         return *known;
     }
+    if (FormView* again = takeUpKept(form)) {
+        return *again;
+    }
     auto* view = new FormView(form, *this);
     views_.emplace(form.name(), view);
     QWidget& root = *view->root();
@@ -167,11 +170,50 @@ FormView& Binder::viewFor(Form& form) {
         placePage(root);
     }
     look_.dress(root);
-    view->paintAgain(); // the places of points depend on the font
     if (auto* dialog = qobject_cast<QDialog*>(&root)) {
         fitDialog(*dialog);
     }
     return *view;
+}
+
+FormView* Binder::takeUpKept(Form& form) {
+    const auto found = kept_.find(form.name());
+    if (found == kept_.end()) {
+        return nullptr;
+    }
+    FormView* view = found->second;
+    kept_.erase(found);
+    if (view->root() == nullptr || !view->takeUp(form)) {
+        delete view;
+        return nullptr;
+    }
+    views_.emplace(form.name(), view);
+    PageScroll::around(*view->root())->setUpdatesEnabled(true);
+    return view;
+}
+
+/// Keeps the widgets of a page that is left for its next visit; false for a form that comes up once.
+bool Binder::keep(FormView& view) {
+    const std::string& name = view.form()->name();
+    PageScroll* scroll = view.root() == nullptr ? nullptr : PageScroll::around(*view.root());
+    const bool comesAgain =
+        name == frmLodgeChoose::formName
+        || std::ranges::any_of(pageTable(), [&](const PageRow& row) { return name == row.form; });
+    if (scroll == nullptr || !comesAgain) {
+        return false;
+    }
+    view.letGo();
+    kept_.emplace(name, &view);
+    // Whenever the stack turns to another page it goes through all widgets that may draw themselves.
+    scroll->setUpdatesEnabled(false);
+    return true;
+}
+
+void Binder::dropKept() {
+    for (const auto& [name, view] : kept_) {
+        delete view;
+    }
+    kept_.clear();
 }
 
 void Binder::fitDialog(QDialog& dialog) {
@@ -193,10 +235,10 @@ void Binder::dressAgain() {
     if (frame_ == nullptr) {
         return;
     }
+    dropKept();           // the next visit makes them anew, so that only what is on screen need change
     look_.dress(*frame_); // its pages and dialogs lie in it
     statusLine_->showZoom(look_.zoom());
     for (const auto& [name, view] : views_) {
-        view->paintAgain();
         if (auto* dialog = qobject_cast<QDialog*>(view->root())) {
             fitDialog(*dialog);
         }
@@ -222,10 +264,10 @@ void Binder::placeFrame(QMainWindow& frame) {
 }
 
 void Binder::placeProblems(QMainWindow& frame) {
-    auto* pages = new PageList(program_, *problems_, &frame);
-    frame.addDockWidget(Qt::LeftDockWidgetArea, pages);
-    connect(pages, &PageList::chosen, this, [this](std::int16_t page) { goToPage(page, {}); });
-    connect(pages, &PageList::left, this, &Binder::settleSoon);
+    pageList_ = new PageList(program_, *problems_, &frame);
+    frame.addDockWidget(Qt::LeftDockWidgetArea, pageList_);
+    connect(pageList_, &PageList::chosen, this, [this](std::int16_t page) { goToPage(page, {}); });
+    connect(pageList_, &PageList::left, this, &Binder::settleSoon);
     auto* button = new ProblemButton(*problems_);
     frame.statusBar()->addPermanentWidget(button);
     connect(button, &QToolButton::clicked, this, &Binder::toggleProblems);
@@ -295,10 +337,7 @@ void Binder::markFields() {
             ++count;
         }
     }
-    page->showProblems(messages);
-    if (auto* tag = page->root()->findChild<SheetTag*>()) {
-        tag->setProblems(count);
-    }
+    page->showProblems(messages, count);
 }
 
 void Binder::showItemStates() {
@@ -378,9 +417,12 @@ void Binder::formUnloaded(Form& form) {
         return;
     }
     tellStatus();
-    // The widgets go when the event that unloaded the form has ended: it may have come from one of them.
     FormView* view = found->second;
     views_.erase(found);
+    if (keep(*view)) {
+        return;
+    }
+    // The widgets go when the event that unloaded the form has ended: it may have come from one of them.
     view->letGo();
     view->setParent(this);
     view->deleteLater();
@@ -395,6 +437,9 @@ void Binder::showTopPage() {
     }
     QWidget* page = shownPages_.empty() ? pages_->widget(0) : shownPages_.back()->root();
     PageScroll* scroll = PageScroll::around(*page);
+    // The list comes or goes first, so that the page is laid out once, in the room that it will have.
+    pageList_->takeRoom();
+    frame_->layout()->activate();
     pages_->setCurrentWidget(scroll == nullptr ? page : scroll);
     if (status_ != nullptr && statusPage_ != page) {
         frame_->statusBar()->removeWidget(status_);

@@ -27,6 +27,7 @@ namespace lodge {
 class KeyCommands;
 class Look;
 class StatusLine;
+class PageList;
 class ProblemDock;
 class ProblemWatch;
 struct Problem;
@@ -78,6 +79,9 @@ class Binder : public QObject, public DeskObserver, public UserDoor, public Wait
 
   private:
     FormView& viewFor(Form& form);
+    FormView* takeUpKept(Form& form);
+    bool keep(FormView& view);
+    void dropKept();
     void dressAgain();
     static void fitDialog(QDialog& dialog);
     void tellStatus();
@@ -100,6 +104,7 @@ class Binder : public QObject, public DeskObserver, public UserDoor, public Wait
     DeskClock clock_;
     User user_;
     std::map<std::string, FormView*, std::less<>> views_;
+    std::map<std::string, FormView*, std::less<>> kept_; // of pages that were left: their widgets serve again
     QPointer<QMainWindow> frame_;
     QPointer<QStackedWidget> pages_;
     std::vector<FormView*> shownPages_; // bottom to top
@@ -109,6 +114,7 @@ class Binder : public QObject, public DeskObserver, public UserDoor, public Wait
     QPointer<StatusLine> statusLine_;
     std::unique_ptr<ProblemWatch> problems_;
     QPointer<ProblemDock> problemDock_;
+    QPointer<PageList> pageList_;
     int waits_ = 0;
     bool boxAnswered_ = false; // a box came up in what the person did last
     QTimer settling_;          // fires once everything that is under way has ended

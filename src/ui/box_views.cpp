@@ -30,6 +30,13 @@ bool isTyping(const QKeyEvent& event) {
 
 } // namespace
 
+void BoxView::takeUp(Control& control) {
+    before_.clear();
+    fresh_ = false;
+    refused_ = false;
+    ControlView::takeUp(control);
+}
+
 void BoxView::paint(Aspect aspect) {
     if (aspect == Aspect::Locked || aspect == Aspect::Back) {
         paintState();
@@ -175,6 +182,11 @@ TextView::TextView(Control& control, QLineEdit& edit, UserDoor& door)
     connect(&edit, &QLineEdit::textEdited, this, &TextView::edited);
 }
 
+void TextView::takeUp(Control& control) {
+    edit_.setText({}); // and with it caret, selection, and what could be undone
+    BoxView::takeUp(control);
+}
+
 void TextView::paint(Aspect aspect) {
     if (aspect == Aspect::Text) {
         paintText();
@@ -257,6 +269,13 @@ bool TextView::keyPressed(QKeyEvent& event) {
     return (isAmount() && arrowPressed(event)) || BoxView::keyPressed(event);
 }
 
+bool TextView::otherEvent(QEvent& event) {
+    if (event.type() == QEvent::FontChange) {
+        paintText(); // the place of the point depends on the font
+    }
+    return BoxView::otherEvent(event);
+}
+
 bool TextView::mousePressed(QMouseEvent& event) {
     if (ControlView::mousePressed(event)) {
         return true;
@@ -277,6 +296,9 @@ bool TextView::mousePressed(QMouseEvent& event) {
 }
 
 void TextView::edited(const QString& text) {
+    if (control() == nullptr) {
+        return;
+    }
     const QString plain = isAmount() ? plainFigure(text) : text;
     const std::string typed = plain.toStdString();
     // Where the caret stands once the text before it has been made regular.
@@ -297,6 +319,13 @@ LinesView::LinesView(Control& control, QPlainTextEdit& edit, UserDoor& door)
     edit.setTabChangesFocus(true);
     watchPart(*edit.viewport());
     connect(&edit, &QPlainTextEdit::textChanged, this, &LinesView::edited);
+}
+
+void LinesView::takeUp(Control& control) {
+    painting_ = true;
+    edit_.clear();
+    painting_ = false;
+    BoxView::takeUp(control);
 }
 
 void LinesView::paint(Aspect aspect) {
@@ -351,12 +380,21 @@ void LinesView::edited() {
 DateView::DateView(Control& control, DateEdit& edit, UserDoor& door)
     : BoxView(control, edit, door), edit_(edit) {
     connect(&edit, &DateEdit::digitsEdited, this, [this](const QString& digits) {
+        if (this->control() == nullptr) {
+            return;
+        }
         this->door().act(
             [&](User& user) { user.edit(static_cast<MaskedBox&>(*this->control()), digits.toStdString()); });
         if (this->control() != nullptr) {
             paint(Aspect::Text);
         }
     });
+}
+
+void DateView::takeUp(Control& control) {
+    edit_.setDigits({});
+    edit_.setCursorPosition(0);
+    BoxView::takeUp(control);
 }
 
 void DateView::paint(Aspect aspect) {

@@ -18,6 +18,7 @@ class BoxView : public ControlView {
 
   public:
     using ControlView::ControlView;
+    void takeUp(Control& control) override;
     void paint(Aspect aspect) override;
     void markRefused() override;
     void showProblem(const QString& message) override;
@@ -54,12 +55,14 @@ class TextView : public BoxView {
 
   public:
     TextView(Control& control, QLineEdit& edit, UserDoor& door);
+    void takeUp(Control& control) override;
     void paint(Aspect aspect) override;
     void focusCame() override;
     [[nodiscard]] bool isLike(const ControlView& other) const override;
 
   protected:
     bool keyPressed(QKeyEvent& event) override;
+    bool otherEvent(QEvent& event) override;
     bool mousePressed(QMouseEvent& event) override;
     [[nodiscard]] bool hasRoomFor(const QString& text) const override;
 
@@ -79,6 +82,7 @@ class LinesView : public BoxView {
 
   public:
     LinesView(Control& control, QPlainTextEdit& edit, UserDoor& door);
+    void takeUp(Control& control) override;
     void paint(Aspect aspect) override;
 
   protected:
@@ -97,6 +101,7 @@ class DateView : public BoxView {
 
   public:
     DateView(Control& control, DateEdit& edit, UserDoor& door);
+    void takeUp(Control& control) override;
     void paint(Aspect aspect) override;
     void focusCame() override;
 

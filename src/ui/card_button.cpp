@@ -1,5 +1,6 @@
 #include "ui/card_button.h"
 
+#include "ui/box_painter.h"
 #include "ui/item_marks.h"
 #include "ui/look.h"
 #include "ui/theme.h"
@@ -97,9 +98,7 @@ void CardButton::paintGround(QPainter& painter) const {
                                        : isDown()     ? QPalette::Midlight
                                        : underMouse() ? QPalette::AlternateBase
                                                       : QPalette::Light;
-    painter.setPen(QPen(palette().color(QPalette::Mid), 1));
-    painter.setBrush(palette().color(ground));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
+    drawBox(painter, rect(), {palette().color(ground), palette().color(QPalette::Mid), 1, 3});
     if (state_.progress == ItemProgress::InTheWay) {
         painter.fillRect(QRect(0, 1, stopEdge, height() - 2), palette().color(QPalette::BrightText));
     }

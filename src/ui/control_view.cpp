@@ -77,6 +77,10 @@ ControlView::ControlView(Control& control, QWidget& widget, UserDoor& door)
     widget.setFocusPolicy(control.takesFocus() ? Qt::TabFocus : Qt::NoFocus);
 }
 
+void ControlView::takeUp(Control& control) {
+    control_ = &control;
+}
+
 void ControlView::paintAll() {
     for (const Aspect aspect : {Aspect::Items, Aspect::Cells, Aspect::Text, Aspect::Caption, Aspect::Value,
              Aspect::Selection, Aspect::Locked, Aspect::Back, Aspect::Enabled, Aspect::Visible}) {

@@ -28,6 +28,8 @@ class ControlView : public QObject {
     [[nodiscard]] Control* control() const { return control_; }
     [[nodiscard]] QWidget* widget() const { return widget_; }
     void letGo() { control_ = nullptr; }
+    /// Stands for the control of a form that was loaded again, with nothing left of the one before.
+    virtual void takeUp(Control& control);
 
     /// Paints one aspect, or everything.
     virtual void paint(Aspect aspect);

@@ -47,6 +47,7 @@ DateEdit::DateEdit(QWidget* parent) : QLineEdit(parent) {
     setInputMethodHints(Qt::ImhDigitsOnly | Qt::ImhNoPredictiveText);
     setAcceptDrops(false);
     setText(masked({}));
+    setCursorPosition(0);
 }
 
 void DateEdit::setDigits(const QString& digits) {

@@ -104,10 +104,20 @@ const Dress* dressOf(const QWidget& widget) {
     if (qobject_cast<const QLineEdit*>(&widget) != nullptr) {
         return nullptr; // a field has its own
     }
-    const Worn worn(widget);
-    const auto* const found = std::find_if(dresses.begin(), dresses.end(),
-        [&](const Dress& dress) { return worn.fits(dress.property, dress.value); });
-    return found == dresses.end() ? nullptr : found;
+    // This is asked for every widget that is drawn, and reading a property is not cheap.
+    for (const char* property : {"role", "state", "type"}) {
+        const QByteArray value = widget.property(property).toByteArray();
+        if (value.isEmpty()) {
+            continue;
+        }
+        const auto* const found = std::find_if(dresses.begin(), dresses.end(), [&](const Dress& dress) {
+            return value == dress.value && std::string_view(property) == dress.property;
+        });
+        if (found != dresses.end()) {
+            return found;
+        }
+    }
+    return nullptr;
 }
 
 Rgb Theme::*groundOf(const Dress& dress, const QWidget& widget) {

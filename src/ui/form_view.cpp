@@ -5,6 +5,7 @@
 #include "ui/boxes.h"
 #include "ui/layouts.h"
 #include "ui/link_label.h"
+#include "ui/sheet_title.h"
 #include "ui/tie_tag.h"
 #include "ui/veil.h"
 
@@ -13,6 +14,8 @@
 #include <QKeyEvent>
 #include <QMainWindow>
 #include <QMouseEvent>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QShortcut>
 
 #include <optional>
@@ -53,12 +56,10 @@ std::unique_ptr<QWidget> layoutOf(const Form& form) {
 
 FormView::FormView(Form& form, UserDoor& door) : form_(&form), door_(door), root_(layoutOf(form).release()) {
     bindControls();
+    bindCaptions();
     bindKeys();
     bindLinks();
-    for (const std::unique_ptr<ControlView>& view : views_) {
-        view->paintAll();
-    }
-    paintForm();
+    paintAll();
     if (!isWindow()) {
         new Veil(*root_); // the page owns it
     }
@@ -91,6 +92,15 @@ void FormView::bindControls() {
         }
         byControl_.emplace(control, view.get());
         views_.push_back(std::move(view));
+    }
+}
+
+void FormView::bindCaptions() {
+    for (QWidget* widget : root_->findChildren<QWidget*>()) {
+        const QString frame = widget->property("captionOf").toString();
+        if (!frame.isEmpty()) {
+            captions_.insert(frame, widget);
+        }
     }
 }
 
@@ -137,13 +147,35 @@ ControlView* FormView::neighbour(const Control& from, Direction where) const {
     return nearest;
 }
 
-void FormView::paintAgain() {
-    for (const std::unique_ptr<ControlView>& view : views_) {
-        if (view->control() != nullptr) {
-            view->paint(Aspect::Text);
-            view->paint(Aspect::Caption);
+bool FormView::takeUp(Form& form) {
+    form_ = &form;
+    lastFocus_.clear();
+    byControl_.clear();
+    auto next = views_.begin();
+    for (Control* control : form.controls()) {
+        if (next != views_.end() && (*next)->widget()->objectName() == widgetName(*control)) {
+            (*next)->takeUp(*control);
+            byControl_.emplace(control, next->get());
+            ++next;
         }
     }
+    if (next != views_.end()) {
+        return false;
+    }
+    paintAll();
+    showProblems({}, 0);
+    for (const QAbstractScrollArea* sheet : root_->findChildren<QAbstractScrollArea*>()) {
+        sheet->verticalScrollBar()->setValue(0);
+        sheet->horizontalScrollBar()->setValue(0);
+    }
+    return true;
+}
+
+void FormView::paintAll() {
+    for (const std::unique_ptr<ControlView>& view : views_) {
+        view->paintAll();
+    }
+    paintForm();
 }
 
 void FormView::paint(Control& control, Aspect aspect) {
@@ -151,27 +183,26 @@ void FormView::paint(Control& control, Aspect aspect) {
         view->paint(aspect);
     }
     if (aspect == Aspect::Caption && control.kind() == ControlKind::Frame) {
-        paintCaptions(control.name(), static_cast<const Frame&>(control).caption());
+        paintCaptions(QString::fromStdString(control.name()), static_cast<const Frame&>(control).caption());
     }
 }
 
 void FormView::paintForm() {
     root_->setWindowTitle(shownText(form_->caption()));
     root_->setEnabled(form_->enabled());
-    paintCaptions(ofTheForm, form_->caption());
+    paintCaptions(QLatin1String(ofTheForm), form_->caption());
     for (const Control* control : form_->controls()) {
         if (control->kind() == ControlKind::Frame) {
-            paintCaptions(control->name(), static_cast<const Frame*>(control)->caption());
+            paintCaptions(
+                QString::fromStdString(control->name()), static_cast<const Frame*>(control)->caption());
         }
     }
 }
 
-void FormView::paintCaptions(const std::string& of, const std::string& caption) {
-    const QString name = QString::fromStdString(of);
-    for (QWidget* widget : root_->findChildren<QWidget*>()) {
-        if (widget->property("captionOf").toString() == name) {
-            widget->setProperty("text", shownText(caption));
-        }
+void FormView::paintCaptions(const QString& of, const std::string& caption) {
+    for (auto widget = captions_.constFind(of); widget != captions_.constEnd() && widget.key() == of;
+         ++widget) {
+        widget.value()->setProperty("text", shownText(caption));
     }
 }
 
@@ -188,12 +219,15 @@ void FormView::readOthers(ReturnState& state) {
     }
 }
 
-void FormView::showProblems(const std::map<std::string, QString>& messages) {
+void FormView::showProblems(const std::map<std::string, QString>& messages, std::size_t count) {
     for (const std::unique_ptr<ControlView>& view : views_) {
         if (view->control() != nullptr && view->widget() != nullptr) {
             const auto found = messages.find(view->control()->fullName());
             view->showProblem(found == messages.end() ? QString() : found->second);
         }
+    }
+    if (auto* tag = root_->findChild<SheetTag*>()) {
+        tag->setProblems(count);
     }
 }
 

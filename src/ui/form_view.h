@@ -5,6 +5,7 @@
 #include "state/return_state.h"
 #include "ui/control_view.h"
 
+#include <QMultiHash>
 #include <QPointer>
 #include <QWidget>
 
@@ -40,25 +41,29 @@ class FormView : public QObject {
     void noteFocus(const Control& control) { lastFocus_ = control.fullName(); }
 
     void paint(Control& control, Aspect aspect);
-    /// Paints everything anew, for another theme or zoom.
-    void paintAgain();
     /// Shows the caption of the form and whether it is open.
     void paintForm();
     /// Has the page compare its figures with those that its other pages have in the return.
     void readOthers(ReturnState& state);
-    /// Marks the fields at which something is in the way of filing, by their names, and unmarks all others.
-    void showProblems(const std::map<std::string, QString>& messages);
+    /// Marks the fields at which something is in the way of filing, by their names, and unmarks all others; the
+    /// head of the sheet says how many things there are.
+    void showProblems(const std::map<std::string, QString>& messages, std::size_t count);
     /// The form has gone: nothing of it is touched any more.
     void letGo();
+    /// Shows the form, loaded again, in the widgets of the one before, as if they had just been made. False
+    /// when it is not of the same controls; then the view is of no more use.
+    [[nodiscard]] bool takeUp(Form& form);
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     void bindControls();
+    void bindCaptions();
+    void paintAll();
     void bindKeys();
     void bindLinks();
-    void paintCaptions(const std::string& of, const std::string& caption);
+    void paintCaptions(const QString& of, const std::string& caption);
     bool keyPressed(const QKeyEvent& event);
 
     Form* form_;
@@ -66,6 +71,7 @@ class FormView : public QObject {
     QPointer<QWidget> root_;
     std::vector<std::unique_ptr<ControlView>> views_;
     std::unordered_map<const Control*, ControlView*> byControl_;
+    QMultiHash<QString, QWidget*> captions_; // by the frame whose caption they show
     std::string lastFocus_;
 };
 

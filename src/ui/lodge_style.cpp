@@ -1,5 +1,6 @@
 #include "ui/lodge_style.h"
 
+#include "ui/box_painter.h"
 #include "ui/dress.h"
 #include "ui/look.h"
 #include "ui/tick_box.h"
@@ -39,6 +40,7 @@ constexpr int ringWidth = 2;
 /// Between the border of a field and what the toolkit puts into it.
 constexpr int fieldPadding = 8;
 constexpr int fieldRadius = 3;
+constexpr int buttonRadius = 4;
 /// The icon in a field that is in the way or refused, and what stands free between it and the figure.
 constexpr int stopIconSize = 14;
 constexpr int stopIconGap = 4;
@@ -93,51 +95,46 @@ Paint tickPaint(const QPalette& palette, const QStyle::State state, const QWidge
     return {fill, fill, palette.color(QPalette::Light)};
 }
 
-/// Has the painter draw on the square of the design whatever the size of the mark; gives the room in its
-/// border.
-QRectF beginMark(const QStyleOption& option, QPainter& painter) {
-    painter.translate(option.rect.topLeft());
-    painter.scale(option.rect.width() / double(indicatorSize), option.rect.height() / double(indicatorSize));
-    return QRectF(0, 0, indicatorSize, indicatorSize).adjusted(0.75, 0.75, -0.75, -0.75);
+QString nameOf(const char* mark, const Paint& paint) {
+    return QStringLiteral("%1 %2 %3 %4")
+        .arg(QLatin1String(mark))
+        .arg(paint.ground.rgba())
+        .arg(paint.border.rgba())
+        .arg(paint.mark.isValid());
 }
+
+/// The room in the border of a mark.
+constexpr QRectF markRoom(0.75, 0.75, indicatorSize - 1.5, indicatorSize - 1.5);
 
 void drawTick(const QStyleOption& option, QPainter& painter, const QWidget* widget) {
     const Paint paint = tickPaint(option.palette, option.state, widget);
-    const QRectF box = beginMark(option, painter);
-    painter.setPen(QPen(paint.border, 1.5));
-    painter.setBrush(paint.ground);
-    painter.drawRoundedRect(box, 3, 3);
-    if (paint.mark.isValid()) {
-        painter.setPen(QPen(paint.mark, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        painter.drawPolyline(QPolygonF({QPointF(4, 8.4), QPointF(6.9, 11.3), QPointF(12, 5.2)}));
-    }
+    drawKept(painter, option.rect, nameOf("tick", paint), indicatorSize, [&](QPainter& square) {
+        square.setPen(QPen(paint.border, 1.5));
+        square.setBrush(paint.ground);
+        square.drawRoundedRect(markRoom, 3, 3);
+        if (paint.mark.isValid()) {
+            square.setPen(QPen(paint.mark, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+            square.drawPolyline(QPolygonF({QPointF(4, 8.4), QPointF(6.9, 11.3), QPointF(12, 5.2)}));
+        }
+    });
 }
 
 void drawChoice(const QStyleOption& option, QPainter& painter, const QWidget* widget) {
     const Paint paint = tickPaint(option.palette, option.state, widget);
-    const QRectF ring = beginMark(option, painter);
-    painter.setPen(QPen(paint.border, 1.5));
-    painter.setBrush(option.palette.color(QPalette::Base));
-    painter.drawEllipse(ring);
-    if (paint.mark.isValid()) {
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(paint.ground);
-        painter.drawEllipse(ring.center(), 4, 4);
-    }
+    drawKept(painter, option.rect, nameOf("choice", paint), indicatorSize, [&](QPainter& square) {
+        square.setPen(QPen(paint.border, 1.5));
+        square.setBrush(option.palette.color(QPalette::Base));
+        square.drawEllipse(markRoom);
+        if (paint.mark.isValid()) {
+            square.setPen(Qt::NoPen);
+            square.setBrush(paint.ground);
+            square.drawEllipse(markRoom.center(), 4, 4);
+        }
+    });
 }
 
 QByteArray roleOf(const QWidget* widget) {
     return widget == nullptr ? QByteArray() : widget->property("role").toByteArray();
-}
-
-void drawRounded(
-    QPainter& painter, const QRectF& rect, const QBrush& ground, const QPen& line, qreal radius) {
-    const qreal inset = line.style() == Qt::NoPen ? 0 : line.widthF() / 2;
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(line);
-    painter.setBrush(ground);
-    painter.drawRoundedRect(rect.adjusted(inset, inset, -inset, -inset), radius, radius);
-    painter.setRenderHint(QPainter::Antialiasing, false);
 }
 
 /// What a dress takes at the sides of a widget.
@@ -324,31 +321,29 @@ void LodgeStyle::polishView(QWidget& view) const {
     view.setPalette(palette);
 }
 
-void LodgeStyle::drawFrame(const QStyleOption& option, QPainter& painter, const QWidget& widget) const {
-    const Dress* dress = dressOf(widget);
-    if (dress == nullptr) {
-        return;
-    }
-    Rgb Theme::*const ground = groundOf(*dress, widget);
-    if (dress->radius > 0) {
-        const QBrush brush = ground == nullptr ? QBrush(Qt::NoBrush) : QBrush(colour(ground));
-        const QPen pen =
-            dress->line == nullptr ? QPen(Qt::NoPen) : QPen(colour(dress->line), dress->lines.left);
-        drawRounded(painter, option.rect, brush, pen, zoomed(dress->radius));
+void LodgeStyle::drawDress(
+    const Dress& dress, const QStyleOption& option, QPainter& painter, const QWidget& widget) const {
+    Rgb Theme::*const ground = groundOf(dress, widget);
+    if (dress.radius > 0) {
+        drawBox(painter, option.rect,
+            {.ground = ground == nullptr ? QColor() : colour(ground),
+                .line = dress.line == nullptr ? QColor() : colour(dress.line),
+                .width = dress.lines.left,
+                .radius = zoomed(dress.radius)});
         return;
     }
     if (ground != nullptr) {
         painter.fillRect(option.rect, colour(ground));
     }
-    if (dress->line != nullptr) {
-        drawLines(painter, option.rect, dress->lines, colour(dress->line));
+    if (dress.line != nullptr) {
+        drawLines(painter, option.rect, dress.lines, colour(dress.line));
     }
 }
 
 void LodgeStyle::drawField(const QStyleOption& option, QPainter& painter, const QWidget& widget) const {
     const FieldDress dress = fieldDressOf(widget, option.state);
-    drawRounded(painter, option.rect, colour(dress.ground), QPen(colour(dress.line), dress.width),
-        zoomed(fieldRadius));
+    drawBox(
+        painter, option.rect, {colour(dress.ground), colour(dress.line), dress.width, zoomed(fieldRadius)});
     const auto* field = qobject_cast<const QLineEdit*>(&widget);
     if (field == nullptr || !wearsStop(*field)) {
         return;
@@ -369,8 +364,7 @@ void LodgeStyle::drawView(const QStyleOption& option, QPainter& painter, const Q
                         : plain              ? ground
                         : widget.isEnabled() ? colour(&Theme::edge)
                                              : colour(&Theme::rule);
-    drawRounded(
-        painter, option.rect, ground, QPen(line, focused ? ringWidth : 1), plain ? 0 : zoomed(fieldRadius));
+    drawBox(painter, option.rect, {ground, line, focused ? ringWidth : 1, plain ? 0 : zoomed(fieldRadius)});
 }
 
 void LodgeStyle::drawHead(const QStyleOption& option, QPainter& painter, const QWidget* widget) const {
@@ -384,8 +378,9 @@ void LodgeStyle::drawScrollBar(
     const bool held = option.activeSubControls == SC_ScrollBarSlider
                       && (option.state & (State_MouseOver | State_Sunken)) != 0;
     const QRect handle = subControlRect(CC_ScrollBar, &option, SC_ScrollBarSlider, widget);
-    drawRounded(painter, handle.adjusted(handleGap, handleGap, -handleGap, -handleGap),
-        colour(held ? &Theme::edge : &Theme::rule), Qt::NoPen, zoomed(scrollBarWidth) / 2.0 - handleGap);
+    drawBox(painter, handle.adjusted(handleGap, handleGap, -handleGap, -handleGap),
+        {.ground = colour(held ? &Theme::edge : &Theme::rule),
+            .radius = zoomed(scrollBarWidth) / 2 - handleGap});
 }
 
 void LodgeStyle::drawPrimitive(
@@ -411,14 +406,8 @@ void LodgeStyle::drawPrimitive(
         return;
     case PE_IndicatorCheckBox:
     case PE_IndicatorRadioButton:
-        painter->save();
-        painter->setRenderHint(QPainter::Antialiasing);
-        if (element == PE_IndicatorCheckBox) {
-            drawTick(*option, *painter, widget);
-        } else {
-            drawChoice(*option, *painter, widget);
-        }
-        painter->restore();
+        element == PE_IndicatorCheckBox ? drawTick(*option, *painter, widget)
+                                        : drawChoice(*option, *painter, widget);
         return;
     default: break;
     }
@@ -437,8 +426,11 @@ void LodgeStyle::drawControl(
             drawField(*option, *painter, *widget);
             return;
         }
-        if (dressOf(*widget) != nullptr || qobject_cast<const QScrollArea*>(widget) != nullptr) {
-            drawFrame(*option, *painter, *widget);
+        if (const Dress* dress = dressOf(*widget)) {
+            drawDress(*dress, *option, *painter, *widget);
+            return;
+        }
+        if (qobject_cast<const QScrollArea*>(widget) != nullptr) {
             return;
         }
     }
@@ -457,12 +449,7 @@ void LodgeStyle::drawControl(
     }
     if (element == CE_PushButtonBevel && button != nullptr) {
         const Paint paint = buttonPaint(*button, widget);
-        painter->save();
-        painter->setRenderHint(QPainter::Antialiasing);
-        painter->setPen(QPen(paint.border, 1));
-        painter->setBrush(paint.ground);
-        painter->drawRoundedRect(QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
-        painter->restore();
+        drawBox(*painter, option->rect, {paint.ground, paint.border, 1, buttonRadius});
         return;
     }
     if (element == CE_PushButtonLabel && button != nullptr) {
@@ -497,14 +484,15 @@ void LodgeStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
         drawScrollBar(*option, *painter, widget);
         return;
     }
-    if (control == CC_ToolButton && widget != nullptr && dressOf(*widget) != nullptr) {
+    if (const Dress* dress = widget == nullptr ? nullptr : dressOf(*widget);
+        control == CC_ToolButton && dress != nullptr) {
         QStyleOptionToolButton tool(*static_cast<const QStyleOptionToolButton*>(option));
-        drawFrame(*option, *painter, *widget);
+        drawDress(*dress, *option, *painter, *widget);
+        tool.rect = tool.rect.marginsRemoved(marginsOf(*dress));
         if ((tool.state & State_MouseOver) != 0) {
-            painter->fillRect(tool.rect.marginsRemoved(marginsOf(*dressOf(*widget))), colour(&Theme::band));
+            painter->fillRect(tool.rect, colour(&Theme::band));
         }
         tool.palette.setColor(QPalette::ButtonText, tool.palette.color(inkOf(*widget)));
-        tool.rect = tool.rect.marginsRemoved(marginsOf(*dressOf(*widget)));
         drawControl(CE_ToolButtonLabel, &tool, painter, widget);
         return;
     }
@@ -520,16 +508,15 @@ void LodgeStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
     const QPalette& palette = combo->palette;
     const bool open = (combo->state & State_Enabled) != 0;
     const bool focused = open && (combo->state & State_HasFocus) != 0;
-    const qreal border = focused ? ringWidth : 1;
+    drawBox(*painter, combo->rect,
+        {.ground = palette.color(open ? QPalette::Active : QPalette::Disabled, QPalette::Base),
+            .line = palette.color(focused ? QPalette::Highlight
+                                  : open  ? QPalette::Dark
+                                          : QPalette::Mid),
+            .width = focused ? ringWidth : 1,
+            .radius = zoomed(fieldRadius)});
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(QPen(palette.color(focused ? QPalette::Highlight
-                                       : open  ? QPalette::Dark
-                                               : QPalette::Mid),
-        border));
-    painter->setBrush(palette.color(open ? QPalette::Active : QPalette::Disabled, QPalette::Base));
-    const qreal inset = border / 2;
-    painter->drawRoundedRect(QRectF(combo->rect).adjusted(inset, inset, -inset, -inset), 3, 3);
     const QPointF tip = QRectF(combo->rect).center() + QPointF(combo->rect.width() / 2.0 - zoomed(14), 2);
     painter->setPen(QPen(palette.color(open ? QPalette::LinkVisited : QPalette::Mid), 1.5, Qt::SolidLine,
         Qt::RoundCap, Qt::RoundJoin));

@@ -10,6 +10,8 @@
 
 namespace lodge {
 
+struct Dress;
+
 class LodgeStyle : public QProxyStyle {
     Q_OBJECT
 
@@ -37,7 +39,8 @@ class LodgeStyle : public QProxyStyle {
         QStyleHintReturn* data = nullptr) const override;
 
   private:
-    void drawFrame(const QStyleOption& option, QPainter& painter, const QWidget& widget) const;
+    void drawDress(
+        const Dress& dress, const QStyleOption& option, QPainter& painter, const QWidget& widget) const;
     void drawField(const QStyleOption& option, QPainter& painter, const QWidget& widget) const;
     void drawView(const QStyleOption& option, QPainter& painter, const QWidget& widget) const;
     void drawHead(const QStyleOption& option, QPainter& painter, const QWidget* widget) const;

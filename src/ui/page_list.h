@@ -26,6 +26,8 @@ class PageList : public QDockWidget {
     PageList(const Program& program, const ProblemWatch& watch, QWidget* parent);
 
     [[nodiscard]] QListView* list() const { return list_; }
+    /// Comes up or goes as the page on screen wants it, as wide as there is room for.
+    void takeRoom();
     /// Whether it is no more than a column of the marks, for want of room.
     [[nodiscard]] bool isNarrow() const;
 
@@ -42,7 +44,6 @@ class PageList : public QDockWidget {
   private:
     [[nodiscard]] QWidget* makeWatchBar();
     void refresh();
-    void takeRoom();
     void choose(int row);
 
     const Program& program_;

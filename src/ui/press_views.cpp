@@ -34,6 +34,12 @@ PressView::PressView(Control& control, QAbstractButton& button, UserDoor& door)
     });
 }
 
+void PressView::takeUp(Control& control) {
+    held_ = false;
+    button_.setDown(false);
+    ControlView::takeUp(control);
+}
+
 void PressView::paint(Aspect aspect) {
     if (aspect == Aspect::Caption) {
         const QString caption = captionOf(*control());

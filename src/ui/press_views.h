@@ -15,6 +15,7 @@ class PressView : public ControlView {
 
   public:
     PressView(Control& control, QAbstractButton& button, UserDoor& door);
+    void takeUp(Control& control) override;
     void paint(Aspect aspect) override;
     /// Cards stand in rows and columns.
     [[nodiscard]] bool isLike(const ControlView& other) const override;

@@ -26,6 +26,11 @@ void describeFigure(QLabel& figure) {
 
 } // namespace
 
+void PanelView::takeUp(Control& control) {
+    held_ = false;
+    ControlView::takeUp(control);
+}
+
 bool PanelView::mousePressed(QMouseEvent& event) {
     if (ControlView::mousePressed(event)) {
         return true;
@@ -47,6 +52,13 @@ bool PanelView::mouseReleased(QMouseEvent& event) {
 LabelView::LabelView(Control& control, QLabel& label, UserDoor& door)
     : PanelView(control, label, door), label_(label) {
     label.setTextFormat(Qt::PlainText);
+}
+
+bool LabelView::otherEvent(QEvent& event) {
+    if (event.type() == QEvent::FontChange) {
+        paint(Aspect::Caption); // the place of the point depends on the font
+    }
+    return PanelView::otherEvent(event);
 }
 
 void LabelView::paint(Aspect aspect) {

@@ -15,6 +15,7 @@ class PanelView : public ControlView {
   public:
     using ControlView::ControlView;
     PanelView(Control& control, QFrame& frame, UserDoor& door) : ControlView(control, frame, door) {}
+    void takeUp(Control& control) override;
 
   protected:
     bool mousePressed(QMouseEvent& event) override;
@@ -30,6 +31,9 @@ class LabelView : public PanelView {
   public:
     LabelView(Control& control, QLabel& label, UserDoor& door);
     void paint(Aspect aspect) override;
+
+  protected:
+    bool otherEvent(QEvent& event) override;
 
   private:
     QLabel& label_;

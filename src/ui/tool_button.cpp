@@ -1,5 +1,6 @@
 #include "ui/tool_button.h"
 
+#include "ui/box_painter.h"
 #include "ui/type.h"
 
 #include <QEvent>
@@ -71,10 +72,12 @@ void ToolButton::paintEvent(QPaintEvent* /*event*/) {
     painter.setRenderHint(QPainter::Antialiasing);
     const bool open = isEnabled();
     if (open && (isDown() || isChecked() || underMouse())) {
-        painter.setPen(isChecked() ? QPen(palette().color(QPalette::Link), 1) : QPen(Qt::NoPen));
-        painter.setBrush(
-            palette().color(isDown() || isChecked() ? QPalette::Midlight : QPalette::AlternateBase));
-        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
+        drawBox(painter, rect(),
+            {.ground =
+                    palette().color(isDown() || isChecked() ? QPalette::Midlight : QPalette::AlternateBase),
+                .line = isChecked() ? palette().color(QPalette::Link) : QColor(),
+                .width = 1,
+                .radius = 4});
     }
     const int content = iconWidth() + captionWidth() + hintWidth();
     int x = std::max(zoomed(leastPadding), (width() - content) / 2);

@@ -1,12 +1,14 @@
 // The colours, fonts and Thai texts of the program.
 
 #include "keys.h"
+#include "ui/box_painter.h"
 #include "ui/boxes.h"
 #include "ui/date_edit.h"
 #include "ui/dress.h"
 #include "ui/look.h"
 #include "ui/qt_host.h"
 #include "ui/sheet_title.h"
+#include "ui/text_label.h"
 #include "ui/thai_texts.h"
 #include "ui/theme.h"
 #include "ui/tick_box.h"
@@ -28,7 +30,9 @@
 #include <QToolButton>
 #include <QTreeView>
 
+#include <algorithm>
 #include <clocale>
+#include <cstdlib>
 
 namespace lodge {
 
@@ -171,6 +175,57 @@ class LookTest : public QObject {
         QCOMPARE(fieldDressOf(field, focused).ground, &Theme::stopGround);
         setWorn(field, "state", "computed");
         QCOMPARE(fieldDressOf(field, open).line, fieldDressOf(field, open).ground);
+    }
+
+    void aBoxOfKeptCornersLooksAsOneThatIsDrawnWhole() {
+        for (const qreal ratio : {1.0, 2.0}) {
+            for (const RoundBox& box : {RoundBox{Qt::white, Qt::darkGray, 1, 3},
+                     RoundBox{Qt::white, Qt::blue, 2, 3}, RoundBox{Qt::yellow, {}, 0, 9},
+                     RoundBox{{}, Qt::darkGray, 1, 2}, RoundBox{Qt::green, Qt::red, 1, 0}}) {
+                const QRect rect(3, 2, 60, 28);
+                QImage kept = page(ratio);
+                QPainter painter(&kept);
+                drawBox(painter, rect, box);
+                painter.end();
+                QImage whole = page(ratio);
+                painter.begin(&whole);
+                painter.setRenderHint(QPainter::Antialiasing);
+                painter.setPen(box.line.isValid() ? QPen(box.line, box.width) : QPen(Qt::NoPen));
+                painter.setBrush(box.ground.isValid() ? QBrush(box.ground) : QBrush(Qt::NoBrush));
+                const qreal inset = box.width / 2.0;
+                painter.drawRoundedRect(
+                    QRectF(rect).adjusted(inset, inset, -inset, -inset), box.radius, box.radius);
+                painter.end();
+                QVERIFY2(mostDifferent(kept, whole) <= 2, // of 255: blended once more on the way
+                    qPrintable(QString::number(mostDifferent(kept, whole))));
+            }
+        }
+    }
+
+    void aLabelIsAsLargeAsTheToolkitsOwn() {
+        for (const QString& text : {QStringLiteral("สั้น"), QStringLiteral("สองบรรทัด\nของแบบ"),
+                 QStringLiteral("กิจการที่ได้รับยกเว้นภาษีเงินได้ตามกฎหมายอื่นๆนอกเหนือจากที่ระบุไว้ข้างต้น "
+                                "และกิจการที่ต้องเสียภาษีเงินได้ตามอัตราที่กฎหมายกำหนดไว้เป็นอย่างอื่น")}) {
+            for (const bool wraps : {false, true}) {
+                for (const int indent : {-1, 0, 12}) {
+                    for (const char* role : {"", "keycap", "statusPart"}) {
+                        TextLabel ours(text);
+                        QLabel toolkits(text);
+                        for (QLabel* label : {static_cast<QLabel*>(&ours), &toolkits}) {
+                            label->setProperty("role", QByteArray(role));
+                            label->setWordWrap(wraps);
+                            label->setIndent(indent);
+                            label->ensurePolished();
+                        }
+                        QCOMPARE(ours.sizeHint(), toolkits.sizeHint());
+                        QCOMPARE(ours.minimumSizeHint(), toolkits.minimumSizeHint());
+                        for (const int width : {40, 150, 333, 2000}) {
+                            QCOMPARE(ours.heightForWidth(width), toolkits.heightForWidth(width));
+                        }
+                    }
+                }
+            }
+        }
     }
 
     void theFontsAreThere() { QCOMPARE(missingFontPackages(), QStringList()); }
@@ -402,6 +457,26 @@ class LookTest : public QObject {
     }
 
   private:
+    static QImage page(qreal ratio) {
+        QImage image(QSize(70, 40) * ratio, QImage::Format_ARGB32_Premultiplied);
+        image.setDevicePixelRatio(ratio);
+        image.fill(Qt::lightGray);
+        return image;
+    }
+
+    static int mostDifferent(const QImage& one, const QImage& other) {
+        int most = 0;
+        for (int y = 0; y < one.height(); ++y) {
+            for (int x = 0; x < one.width(); ++x) {
+                const QColor a = one.pixelColor(x, y);
+                const QColor b = other.pixelColor(x, y);
+                most = std::max({most, std::abs(a.red() - b.red()), std::abs(a.green() - b.green()),
+                    std::abs(a.blue() - b.blue())});
+            }
+        }
+        return most;
+    }
+
     static Rgb colour(const Theme& theme, const QString& name) {
         const auto* const found = std::find_if(themeColours.begin(), themeColours.end(),
             [&](const ThemeColour& colour) { return name == QLatin1String(colour.name); });
