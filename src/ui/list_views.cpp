@@ -109,6 +109,7 @@ GridView::GridView(Control& control, QTableWidget& table, UserDoor& door)
     table.setTabKeyNavigation(false);
     table.horizontalHeader()->setProperty("type", "label");
     table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    table.horizontalHeader()->setDefaultSectionSize(zoomed(table.horizontalHeader()->defaultSectionSize()));
     table.verticalHeader()->hide();
     table.verticalHeader()->setDefaultSectionSize(zoomed(tableRow));
     connect(&table, &QTableWidget::cellClicked, this, [this](int row, int /*column*/) { pick(row); });

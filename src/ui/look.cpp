@@ -69,10 +69,13 @@ QColor iconColour(const QWidget& widget) {
         return widget.palette().color(QPalette::Light);
     }
     if (role == "danger") {
-        return widget.palette().color(QPalette::BrightText);
+        return widget.palette().color(ink::stop);
     }
     if (role == "mark") {
-        return widget.palette().color(QPalette::Link);
+        return widget.palette().color(ink::form);
+    }
+    if (role == "warn") {
+        return widget.palette().color(ink::warn);
     }
     return widget.palette().color(QPalette::Active, QPalette::ButtonText);
 }

@@ -5,8 +5,10 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QMainWindow>
+#include <QScreen>
 #include <QWidget>
 
+#include <algorithm>
 #include <utility>
 
 namespace lodge {
@@ -71,11 +73,19 @@ void learn(QWidget& widget) {
 
 void apply(QWidget& widget, double zoom) {
     Zoomed zoomed(widget, zoom);
-    for (void (QWidget::*set)(int) : {&QWidget::setMinimumWidth, &QWidget::setMinimumHeight,
-             &QWidget::setMaximumWidth, &QWidget::setMaximumHeight}) {
+    const QSize screen =
+        widget.isWindow() ? widget.screen()->availableSize() : QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    struct Setter {
+        void (QWidget::*set)(int);
+        int most; // the screen does not grow
+    };
+    for (const Setter& setter : {Setter{&QWidget::setMinimumWidth, screen.width()},
+             Setter{&QWidget::setMinimumHeight, screen.height()},
+             Setter{&QWidget::setMaximumWidth, QWIDGETSIZE_MAX},
+             Setter{&QWidget::setMaximumHeight, QWIDGETSIZE_MAX}}) {
         const int measure = zoomed.next();
-        if (measure >= 0 && qobject_cast<QMainWindow*>(&widget) == nullptr) { // the screen does not grow
-            (widget.*set)(measure);
+        if (measure >= 0 && qobject_cast<QMainWindow*>(&widget) == nullptr) {
+            (widget.*setter.set)(std::min(measure, setter.most));
         }
     }
     const int indent = zoomed.next();
