@@ -8,7 +8,6 @@
 #include <QScreen>
 #include <QWidget>
 
-#include <algorithm>
 #include <utility>
 
 namespace lodge {
@@ -73,20 +72,18 @@ void learn(QWidget& widget) {
 
 void apply(QWidget& widget, double zoom) {
     Zoomed zoomed(widget, zoom);
-    const QSize screen =
-        widget.isWindow() ? widget.screen()->availableSize() : QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-    struct Setter {
-        void (QWidget::*set)(int);
-        int most; // the screen does not grow
-    };
-    for (const Setter& setter : {Setter{&QWidget::setMinimumWidth, screen.width()},
-             Setter{&QWidget::setMinimumHeight, screen.height()},
-             Setter{&QWidget::setMaximumWidth, QWIDGETSIZE_MAX},
-             Setter{&QWidget::setMaximumHeight, QWIDGETSIZE_MAX}}) {
-        const int measure = zoomed.next();
-        if (measure >= 0 && qobject_cast<QMainWindow*>(&widget) == nullptr) {
-            (widget.*setter.set)(std::min(measure, setter.most));
-        }
+    const auto given = [](int measure, int otherwise) { return measure >= 0 ? measure : otherwise; };
+    const int minimumWidth = given(zoomed.next(), widget.minimumWidth());
+    const int minimumHeight = given(zoomed.next(), widget.minimumHeight());
+    const int maximumWidth = given(zoomed.next(), widget.maximumWidth());
+    const int maximumHeight = given(zoomed.next(), widget.maximumHeight());
+    if (qobject_cast<QMainWindow*>(&widget) == nullptr) { // the screen does not grow
+        // Where the screen is smaller than a window, its layout says what is needed.
+        const QSize screen =
+            widget.isWindow() ? widget.screen()->availableSize() : QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+        widget.setMinimumSize(minimumWidth <= screen.width() ? minimumWidth : 0,
+            minimumHeight <= screen.height() ? minimumHeight : 0);
+        widget.setMaximumSize(maximumWidth, maximumHeight);
     }
     const int indent = zoomed.next();
     if (auto* label = qobject_cast<QLabel*>(&widget); label != nullptr && indent >= 0) {
