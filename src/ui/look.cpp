@@ -7,6 +7,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QIconEngine>
+#include <QImageReader>
 #include <QLabel>
 #include <QPainter>
 #include <QPixmapCache>
@@ -46,7 +47,7 @@ class StencilEngine : public QIconEngine {
         const QString key = QStringLiteral("%1 %2 %3").arg(name_).arg(pixels.width()).arg(colour.rgb());
         QPixmap pixmap;
         if (!QPixmapCache::find(key, &pixmap)) {
-            pixmap.load(QStringLiteral(":/ui/icons/%1@%2.png").arg(name_).arg(scale));
+            pixmap = pictureAt(QStringLiteral(":/ui/icons/%1@%2.png").arg(name_).arg(scale));
             pixmap = pixmap.scaled(pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation);
             QPainter painter(&pixmap);
             painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
@@ -81,6 +82,12 @@ QColor iconColour(const QWidget& widget) {
 }
 
 } // namespace
+
+QPixmap pictureAt(const QString& path) {
+    QImageReader reader(path, "png");
+    reader.setAutoDetectImageFormat(false); // or else every plugin is loaded and asked
+    return QPixmap::fromImageReader(&reader);
+}
 
 QIcon iconOf(const QString& name, const QColor& colour, const QColor& closed) {
     return QIcon(new StencilEngine(name, colour, closed)); // which owns it

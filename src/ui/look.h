@@ -7,6 +7,7 @@
 #include <QFocusFrame>
 #include <QIcon>
 #include <QObject>
+#include <QPixmap>
 #include <QPointer>
 
 class QApplication;
@@ -51,6 +52,8 @@ class Look : public QObject {
     QPointer<QFocusFrame> ring_;
 };
 
+/// A picture among the resources of the program, a PNG.
+[[nodiscard]] QPixmap pictureAt(const QString& path);
 /// An icon of the program in one colour, with the closed form of it in another.
 [[nodiscard]] QIcon iconOf(const QString& name, const QColor& colour, const QColor& closed);
 

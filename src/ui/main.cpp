@@ -48,7 +48,7 @@ int main(int argc, char** argv) {
     QApplication::installTranslator(&texts);
     lodge::Look look(application);
     lodge::ZoomSetting zoom(look);
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/ui/lodge77.png")));
+    QApplication::setWindowIcon(QIcon(lodge::pictureAt(QStringLiteral(":/ui/lodge77.png"))));
     lodge::QtHost host(lodge::programFolder());
     lodge::Program program(host);
     lodge::Binder binder(program, look);

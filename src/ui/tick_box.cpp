@@ -19,12 +19,6 @@ constexpr int margin = 1;
 constexpr int leastCaptionWidth = 180;
 constexpr int captionFlags = Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap | Qt::TextShowMnemonic;
 
-/// The caption as it is drawn: "11/4" is never broken behind its stroke.
-QString drawnCaption(const QAbstractButton& button) {
-    QString text = button.text();
-    return text.replace(QLatin1Char('/'), QStringLiteral("/\u2060"));
-}
-
 int indicatorSide(const QWidget& widget) {
     return widget.style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, &widget);
 }
@@ -57,7 +51,7 @@ void paint(QAbstractButton& button, const QStyleOptionButton& option, QStyle::Pr
     const QRect room = button.rect().adjusted(captionLeft(button), margin, 0, 0);
     const QPalette::ColorGroup group = button.isEnabled() ? QPalette::Active : QPalette::Disabled;
     painter.setPen(button.palette().color(group, QPalette::WindowText));
-    painter.drawText(room, captionFlags, drawnCaption(button));
+    painter.drawText(room, captionFlags, button.text());
 }
 
 } // namespace
@@ -67,7 +61,7 @@ int CaptionSizes::width(const QAbstractButton& button) const {
         text_ = button.text();
         font_ = button.font();
         heights_.clear();
-        width_ = button.fontMetrics().size(Qt::TextShowMnemonic, drawnCaption(button)).width() + 1;
+        width_ = button.fontMetrics().size(Qt::TextShowMnemonic, button.text()).width() + 1;
     }
     return width_;
 }
@@ -80,7 +74,7 @@ int CaptionSizes::heightIn(int width, const QAbstractButton& button) const {
         return *known;
     }
     const QRect space(0, 0, room, 10000);
-    const int text = button.fontMetrics().boundingRect(space, captionFlags, drawnCaption(button)).height();
+    const int text = button.fontMetrics().boundingRect(space, captionFlags, button.text()).height();
     return *heights_.insert(room, std::max(zoomed(rowHeight), text + 2 * margin));
 }
 
