@@ -77,9 +77,7 @@ ControlView::ControlView(Control& control, QWidget& widget, UserDoor& door)
     widget.setFocusPolicy(control.takesFocus() ? Qt::TabFocus : Qt::NoFocus);
 }
 
-void ControlView::takeUp(Control& control) {
-    control_ = &control;
-}
+void ControlView::takeUp(Control& control) { control_ = &control; }
 
 void ControlView::paintAll() {
     for (const Aspect aspect : {Aspect::Items, Aspect::Cells, Aspect::Text, Aspect::Caption, Aspect::Value,
