@@ -105,11 +105,11 @@ void SourceCell::setNarrow(bool narrow) {
     narrow_ = narrow;
     if (text_ != nullptr) {
         text_->setVisible(!narrow);
-    }
-    if (tie_ != nullptr) {
-        tie_->setMarkOnly(narrow);
-        setToolTip(narrow ? text_->text() : QString());
-        setCursor(narrow ? Qt::PointingHandCursor : Qt::ArrowCursor);
+        if (tie_ != nullptr) {
+            tie_->setMarkOnly(narrow);
+            setToolTip(narrow ? text_->text() : QString());
+            setCursor(narrow ? Qt::PointingHandCursor : Qt::ArrowCursor);
+        }
     }
     updateGeometry();
     update();
