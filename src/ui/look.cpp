@@ -112,9 +112,10 @@ void Look::wear() {
     QApplication::setFont(fontOf(typeOf(QStringLiteral("field")), zoom_));
     QApplication::setPalette(paletteOf(*theme_));
     QToolTip::setPalette(paletteOf(*theme_));
-    // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): the application owns its style.
+    // NOLINTBEGIN(clang-analyzer-cplusplus.NewDeleteLeaks): the application owns its style.
     QApplication::setStyle(new LodgeStyle(*theme_)); // a new one, so that everything is polished again
     wearing_ = false;
+    // NOLINTEND(clang-analyzer-cplusplus.NewDeleteLeaks)
 }
 
 void Look::setZoom(double zoom) {
