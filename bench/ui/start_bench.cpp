@@ -24,8 +24,10 @@ void bareWindow(benchmark::State& rounds) {
         runProgram({LODGE_BARE_WINDOW});
 }
 
-// In turn and many times, so that what else the machine does falls on both alike.
-constexpr int repetitions = 15;
+constexpr std::array measurements{
+    Measurement{"first-paint", lodge77},
+    Measurement{"bare-window", bareWindow},
+};
 
 const std::array ratios{
     Ratio{Clock::Wall, "first-paint", {"bare-window"}, 1.5},
@@ -56,27 +58,9 @@ int main(int argumentCount, char** argumentTexts) {
     setenv("QT_PLUGIN_PATH", LODGE_BENCH_PLUGINS, 1);
     setenv("QT_QPA_GENERIC_PLUGINS", "firstpaint", 1);
     setenv("QT_LOGGING_RULES", "*=false", 1);
-    std::string interleaved = "--benchmark_enable_random_interleaving=true";
-    std::vector<char*> arguments(argumentTexts, argumentTexts + argumentCount);
-    arguments.insert(arguments.begin() + 1, interleaved.data());
-    int count = static_cast<int>(arguments.size());
-    benchmark::Initialize(&count, arguments.data());
-    if (benchmark::ReportUnrecognizedArguments(count, arguments.data())) return 2;
-    benchmark::RegisterBenchmark("first-paint", lodge77)
-        ->UseRealTime()
-        ->Unit(benchmark::kMillisecond)
-        ->Repetitions(repetitions)
-        ->Iterations(1)
-        ->ReportAggregatesOnly(true);
-    benchmark::RegisterBenchmark("bare-window", bareWindow)
-        ->UseRealTime()
-        ->Unit(benchmark::kMillisecond)
-        ->Repetitions(repetitions)
-        ->Iterations(1)
-        ->ReportAggregatesOnly(true);
-    RatioReporter reporter;
-    benchmark::RunSpecifiedBenchmarks(&reporter);
-    reporter.printRatios(ratios);
+    const int failed =
+        runMeasurements(argumentCount, argumentTexts, benchmark::kMillisecond, measurements, ratios);
+    if (failed != 0) return failed;
     printMemory();
     return 0;
 }

@@ -72,8 +72,6 @@ class Binder : public QObject, public DeskObserver, public UserDoor, public Wait
   signals:
     /// The last box or dialog that waited has its answer.
     void waitsOver();
-
-  signals:
     /// A person wants everything drawn that many steps larger, or as designed for 0.
     void zoomAsked(int steps);
 

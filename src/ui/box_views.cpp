@@ -73,11 +73,6 @@ void BoxView::markRefused() {
     paintState();
 }
 
-void BoxView::showProblem(const QString& message) {
-    ControlView::showProblem(message);
-    paintState();
-}
-
 void BoxView::focusCame() {
     fresh_ = true;
     keepFigure();

@@ -21,12 +21,12 @@ class BoxView : public ControlView {
     void takeUp(Control& control) override;
     void paint(Aspect aspect) override;
     void markRefused() override;
-    void showProblem(const QString& message) override;
     void focusCame() override;
 
   protected:
     bool keyPressed(QKeyEvent& event) override;
     bool otherEvent(QEvent& event) override;
+    void paintProblem() override { paintState(); }
 
     /// Whether the box has room for one more character.
     [[nodiscard]] virtual bool hasRoomFor(const QString& /*text*/) const { return true; }

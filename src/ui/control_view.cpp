@@ -98,6 +98,7 @@ void ControlView::showProblem(const QString& message) {
     if (message != problem_) {
         problem_ = message;
         widget_->setToolTip(message);
+        paintProblem();
     }
 }
 

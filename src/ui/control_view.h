@@ -41,7 +41,7 @@ class ControlView : public QObject {
     /// A rule refused what the box holds and sent the person back to it.
     virtual void markRefused() {}
     /// What is in the way of filing at this control; an empty text for nothing.
-    virtual void showProblem(const QString& message);
+    void showProblem(const QString& message);
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -61,6 +61,8 @@ class ControlView : public QObject {
     [[nodiscard]] UserDoor& door() const { return door_; }
     /// Watches a part of the widget that gets the mouse in its place.
     void watchPart(QWidget& part) { part.installEventFilter(this); }
+    /// What is in the way here has changed.
+    virtual void paintProblem() {}
     void setState(const char* state);
     [[nodiscard]] bool isInTheWay() const { return !problem_.isEmpty(); }
 

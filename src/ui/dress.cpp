@@ -76,18 +76,15 @@ constexpr std::array inks{
 };
 // clang-format on
 
-/// The values of the properties that the tables ask for.
+/// The values of the properties that decide an ink.
 class Worn {
   public:
     explicit Worn(const QWidget& widget)
         : role_(widget.property("role").toByteArray()), type_(widget.property("type").toByteArray()),
-          tone_(widget.property("tone").toByteArray()), state_(widget.property("state").toByteArray()) {}
+          tone_(widget.property("tone").toByteArray()) {}
 
     [[nodiscard]] bool fits(std::string_view property, std::string_view value) const {
-        const QByteArray& has = property == "role"   ? role_
-                                : property == "type" ? type_
-                                : property == "tone" ? tone_
-                                                     : state_;
+        const QByteArray& has = property == "role" ? role_ : property == "type" ? type_ : tone_;
         return value == std::string_view(has.constData(), static_cast<std::size_t>(has.size()));
     }
 
@@ -95,7 +92,6 @@ class Worn {
     QByteArray role_;
     QByteArray type_;
     QByteArray tone_;
-    QByteArray state_;
 };
 
 } // namespace

@@ -45,8 +45,8 @@ class FormView : public QObject {
     void paintForm();
     /// Has the page compare its figures with those that its other pages have in the return.
     void readOthers(ReturnState& state);
-    /// Marks the fields at which something is in the way of filing, by their names, and unmarks all others; the
-    /// head of the sheet says how many things there are.
+    /// Marks the fields at which something is in the way of filing, by their names, and unmarks all others;
+    /// the head of the sheet says how many things there are.
     void showProblems(const std::map<std::string, QString>& messages, std::size_t count);
     /// The form has gone: nothing of it is touched any more.
     void letGo();

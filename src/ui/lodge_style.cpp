@@ -20,7 +20,6 @@
 #include <QStyleFactory>
 #include <QStyleOption>
 #include <QToolButton>
-#include <QToolTip>
 
 #include <algorithm>
 
@@ -292,7 +291,7 @@ void LodgeStyle::polish(QWidget* widget) {
         }
     } else if (qobject_cast<QLineEdit*>(widget) != nullptr) {
         if (widget->parentWidget() != nullptr && liesIn(*widget, "ledger")) {
-            QPalette palette = widget->palette(); // its closed fields are there to be read
+            QPalette palette; // its closed fields are there to be read
             palette.setColor(QPalette::Disabled, QPalette::Text, colour(&Theme::ink));
             widget->setPalette(palette);
         }
@@ -302,7 +301,7 @@ void LodgeStyle::polish(QWidget* widget) {
         widget->setBackgroundRole(QPalette::Light);
         widget->setAutoFillBackground(true);
     } else if (qobject_cast<QDialog*>(widget) != nullptr && roleOf(widget) != "ground") {
-        QPalette palette = widget->palette();
+        QPalette palette;
         palette.setColor(QPalette::Window, colour(&Theme::paper));
         widget->setPalette(palette);
     }
@@ -310,7 +309,7 @@ void LodgeStyle::polish(QWidget* widget) {
 
 void LodgeStyle::polishView(QWidget& view) const {
     const QByteArray role = roleOf(&view);
-    QPalette palette = view.palette();
+    QPalette palette; // of these roles alone: the others follow the theme by themselves
     if (role == "problems" || isPopup(view)) {
         palette.setColor(QPalette::Base, colour(&Theme::paper));
     } else if (role == "pages") {
@@ -484,8 +483,7 @@ void LodgeStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
         drawScrollBar(*option, *painter, widget);
         return;
     }
-    if (const Dress* dress = widget == nullptr ? nullptr : dressOf(*widget);
-        control == CC_ToolButton && dress != nullptr) {
+    if (const Dress* dress = control == CC_ToolButton && widget != nullptr ? dressOf(*widget) : nullptr) {
         QStyleOptionToolButton tool(*static_cast<const QStyleOptionToolButton*>(option));
         drawDress(*dress, *option, *painter, *widget);
         tool.rect = tool.rect.marginsRemoved(marginsOf(*dress));

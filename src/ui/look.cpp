@@ -44,7 +44,7 @@ class StencilEngine : public QIconEngine {
         constexpr int largest = 3;
         const int scale = std::clamp((pixels.width() + iconSize - 1) / iconSize, 1, largest);
         const QColor colour = mode == QIcon::Disabled ? closed_ : open_;
-        const QString key = QStringLiteral("%1 %2 %3").arg(name_).arg(pixels.width()).arg(colour.rgb());
+        const QString key = QStringLiteral("icon %1 %2 %3").arg(name_).arg(pixels.width()).arg(colour.rgb());
         QPixmap pixmap;
         if (!QPixmapCache::find(key, &pixmap)) {
             pixmap = pictureAt(QStringLiteral(":/ui/icons/%1@%2.png").arg(name_).arg(scale));

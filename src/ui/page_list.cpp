@@ -2,6 +2,7 @@
 
 #include "shell/page_table.h"
 #include "ui/item_marks.h"
+#include "ui/list_keys.h"
 #include "ui/look.h"
 #include "ui/text_label.h"
 #include "ui/theme.h"
@@ -10,7 +11,6 @@
 
 #include <QAbstractListModel>
 #include <QEvent>
-#include <QKeyEvent>
 #include <QListView>
 #include <QMainWindow>
 #include <QPainter>
@@ -183,7 +183,9 @@ PageList::PageList(const Program& program, const ProblemWatch& watch, QWidget* p
     list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     // A click goes to the page, and the focus with it; F6 comes here to choose by keys.
     list_->setFocusPolicy(Qt::TabFocus);
-    list_->installEventFilter(this);
+    auto* keys = new ListKeys(*list_);
+    connect(keys, &ListKeys::chosen, this, &PageList::choose);
+    connect(keys, &ListKeys::left, this, &PageList::left);
     connect(list_, &QListView::clicked, this, [this](const QModelIndex& at) { choose(at.row()); });
 
     watchBar_ = makeWatchBar();
@@ -282,17 +284,7 @@ bool PageList::eventFilter(QObject* watched, QEvent* event) {
     if (watched == parentWidget() && event->type() == QEvent::Resize) {
         takeRoom();
     }
-    if (watched != list_ || event->type() != QEvent::KeyPress) {
-        return QDockWidget::eventFilter(watched, event);
-    }
-    switch (static_cast<const QKeyEvent&>(*event).key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter: choose(list_->currentIndex().row()); return true;
-    case Qt::Key_Escape:
-    case Qt::Key_Tab:
-    case Qt::Key_Backtab: emit left(); return true;
-    default: return false;
-    }
+    return QDockWidget::eventFilter(watched, event);
 }
 
 } // namespace lodge

@@ -151,9 +151,6 @@ void TickView::paint(Aspect aspect) {
     button().setChecked(ticked);
 }
 
-void TickView::showProblem(const QString& message) {
-    PressView::showProblem(message);
-    setState(message.isEmpty() ? "" : "way");
-}
+void TickView::paintProblem() { setState(isInTheWay() ? "way" : ""); }
 
 } // namespace lodge

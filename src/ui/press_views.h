@@ -44,7 +44,9 @@ class TickView : public PressView {
   public:
     TickView(Control& control, QAbstractButton& button, UserDoor& door);
     void paint(Aspect aspect) override;
-    void showProblem(const QString& message) override;
+
+  protected:
+    void paintProblem() override;
 };
 
 } // namespace lodge

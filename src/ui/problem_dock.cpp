@@ -2,6 +2,7 @@
 
 #include "ui/dress.h"
 #include "ui/item_marks.h"
+#include "ui/list_keys.h"
 #include "ui/look.h"
 #include "ui/text_label.h"
 #include "ui/type.h"
@@ -11,7 +12,6 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QPainter>
 #include <QStackedWidget>
 #include <QStyledItemDelegate>
@@ -283,7 +283,9 @@ void ProblemDock::makeList() {
     head.setStretchLastSection(false);
     head.setSectionResizeMode(QHeaderView::Fixed);
     head.setSectionResizeMode(TextColumn, QHeaderView::Stretch);
-    list_->installEventFilter(this);
+    auto* keys = new ListKeys(*list_);
+    connect(keys, &ListKeys::chosen, this, &ProblemDock::choose);
+    connect(keys, &ListKeys::left, this, &ProblemDock::left);
     connect(list_, &QTreeView::doubleClicked, this, [this](const QModelIndex& at) { choose(at.row()); });
 }
 
@@ -366,20 +368,6 @@ void ProblemDock::choose(int row) {
     if (row >= 0) {
         const Problem problem = model_->problems().at(static_cast<std::size_t>(row)); // it may go on the way
         emit chosen(problem);
-    }
-}
-
-bool ProblemDock::eventFilter(QObject* watched, QEvent* event) {
-    if (watched != list_ || event->type() != QEvent::KeyPress) {
-        return QDockWidget::eventFilter(watched, event);
-    }
-    switch (static_cast<const QKeyEvent&>(*event).key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter: choose(list_->currentIndex().row()); return true;
-    case Qt::Key_Escape:
-    case Qt::Key_Tab:
-    case Qt::Key_Backtab: emit left(); return true;
-    default: return false;
     }
 }
 

@@ -38,7 +38,6 @@ class ProblemDock : public QDockWidget {
     void left();
 
   protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
     void changeEvent(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
 

@@ -4,6 +4,7 @@
 #include <QPalette>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace lodge {

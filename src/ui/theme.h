@@ -5,7 +5,6 @@
 
 #include <QPalette>
 
-#include <array>
 #include <cstdint>
 
 class QColor;
@@ -63,22 +62,6 @@ inline constexpr Theme darkTheme{
     .stop = 0xFF9A8F, .stopGround = 0x3A2220, .warn = 0xF0BE6A, .warnGround = 0x352B18,
     .ok = 0x86CFA0, .okGround = 0x1C2A22};
 
-/// The name of a colour, as the design calls it.
-struct ThemeColour {
-    const char* name;
-    Rgb Theme::*colour;
-};
-
-inline constexpr std::array<ThemeColour, 24> themeColours = {{
-    {"ground", &Theme::ground}, {"chrome", &Theme::chrome}, {"paper", &Theme::paper},
-    {"band", &Theme::band}, {"field", &Theme::field}, {"computed", &Theme::computed},
-    {"disabled", &Theme::disabled}, {"rule", &Theme::rule}, {"edge", &Theme::edge},
-    {"ink", &Theme::ink}, {"ink2", &Theme::ink2}, {"ink3", &Theme::ink3},
-    {"form", &Theme::form}, {"onForm", &Theme::onForm}, {"focus", &Theme::focus},
-    {"select", &Theme::select}, {"green", &Theme::green}, {"greenInk", &Theme::greenInk},
-    {"stop", &Theme::stop}, {"stopGround", &Theme::stopGround}, {"warn", &Theme::warn},
-    {"warnGround", &Theme::warnGround}, {"ok", &Theme::ok}, {"okGround", &Theme::okGround},
-}};
 // clang-format on
 
 /// Under which roles of the palette a widget finds the inks that the toolkit has no role for: all are roles

@@ -31,6 +31,7 @@
 #include <QTreeView>
 
 #include <algorithm>
+#include <array>
 #include <clocale>
 #include <cstdlib>
 
@@ -62,6 +63,25 @@ int inkHeight(const QFont& font, const QString& text) {
     }
     return last - first + 1;
 }
+
+// clang-format off
+/// The name of a colour, as the design calls it.
+struct ThemeColour {
+    const char* name;
+    Rgb Theme::*colour;
+};
+
+constexpr std::array<ThemeColour, 24> themeColours = {{
+    {"ground", &Theme::ground}, {"chrome", &Theme::chrome}, {"paper", &Theme::paper},
+    {"band", &Theme::band}, {"field", &Theme::field}, {"computed", &Theme::computed},
+    {"disabled", &Theme::disabled}, {"rule", &Theme::rule}, {"edge", &Theme::edge},
+    {"ink", &Theme::ink}, {"ink2", &Theme::ink2}, {"ink3", &Theme::ink3},
+    {"form", &Theme::form}, {"onForm", &Theme::onForm}, {"focus", &Theme::focus},
+    {"select", &Theme::select}, {"green", &Theme::green}, {"greenInk", &Theme::greenInk},
+    {"stop", &Theme::stop}, {"stopGround", &Theme::stopGround}, {"warn", &Theme::warn},
+    {"warnGround", &Theme::warnGround}, {"ok", &Theme::ok}, {"okGround", &Theme::okGround},
+}};
+// clang-format on
 
 bool isEnglish(const QString& text) {
     static const QRegularExpression words(QStringLiteral("[A-Za-z]{2,}"));
